@@ -1,0 +1,51 @@
+# zthalf_add_test(NAME name SOURCES files... LABELS labels... [LEVELS])
+#
+# The one way a test is made: an executable with the library's internals and GoogleTest. With LEVELS it is registered
+# once for each instruction level, name@base, name@v3, name@v4, and a level that the processor lacks counts as skipped.
+# Tests whose GoogleTest names begin with Long are left to a second registration with the label long.
+
+if(CMAKE_CROSSCOMPILING)
+  # Debian ships GoogleTest for foreign architectures as sources.
+  add_subdirectory(/usr/src/googletest ${PROJECT_BINARY_DIR}/googletest EXCLUDE_FROM_ALL)
+  add_library(GTest::gmock ALIAS gmock)
+else()
+  find_package(GTest REQUIRED)
+endif()
+
+add_library(zthalf_test_support STATIC tests/support/main.cpp)
+target_link_libraries(zthalf_test_support PUBLIC zthalf_internals GTest::gtest GTest::gmock)
+target_include_directories(zthalf_test_support PUBLIC ${PROJECT_SOURCE_DIR})
+target_compile_options(zthalf_test_support PUBLIC -Wall -Wextra $<$<BOOL:${ZTHALF_WERROR}>:-Werror>)
+
+if(CMAKE_SYSTEM_PROCESSOR MATCHES "x86_64|AMD64")
+  set(ZTHALF_LEVELS base v3 v4)
+else()
+  set(ZTHALF_LEVELS base)
+endif()
+
+function(zthalf_add_test)
+  cmake_parse_arguments(PARSE_ARGV 0 test "LEVELS" "NAME" "SOURCES;LABELS")
+  string(REPLACE "/" "_" target test_${test_NAME})
+  add_executable(${target} ${test_SOURCES})
+  target_link_libraries(${target} PRIVATE zthalf_test_support)
+  file(STRINGS ${test_SOURCES} long_tests REGEX "^TEST(_P|_F)?\\(Long")
+  set(levels ${ZTHALF_LEVELS})
+  if(NOT test_LEVELS)
+    set(levels supported)
+  endif()
+  foreach(level IN LISTS levels)
+    set(name ${test_NAME}@${level})
+    if(NOT test_LEVELS)
+      set(name ${test_NAME})
+    endif()
+    add_test(NAME ${name} COMMAND ${target} --gtest_filter=-Long*:*/Long* --gtest_brief=1)
+    set_tests_properties(${name} PROPERTIES LABELS "${test_LABELS}")
+    set(names ${name})
+    if(long_tests)
+      add_test(NAME long/${name} COMMAND ${target} --gtest_filter=Long*:*/Long* --gtest_brief=1)
+      set_tests_properties(long/${name} PROPERTIES LABELS long)
+      list(APPEND names long/${name})
+    endif()
+    set_tests_properties(${names} PROPERTIES ENVIRONMENT ZTHALF_TEST_LEVEL=${level} SKIP_RETURN_CODE 77)
+  endforeach()
+endfunction()

@@ -1,0 +1,71 @@
+// THE list: every entry of the table, once. Declarations, the table, the facade, the template instances and the tests
+// are all read from it; none of them names an entry on its own.
+//
+// A row holds tags and names only, and a reader expands it to one declaration or one forwarding line, never to a body.
+// Tags are the aliases of element_types.h. The names an entry list expands to are kept in plain text, for searching and
+// as a test's expected value, in tests/abi/entries.txt.
+//
+// An entry enters this list in the change that brings its body.
+#pragma once
+
+// Unary rows: X(entry, facade name, input tag, output tag, template instance or function in namespace half)
+
+#define ZTHALF_CONVERSION_ENTRY(X, Tag)                                                                            \
+  X(convert##Tag##ToHalf, convertToHalf, Tag, Half, convert<element::Tag, element::Half>)                          \
+  X(convertHalfTo##Tag, convertFromHalf, Half, Tag, convert<element::Half, element::Tag>)
+
+#define ZTHALF_CONVERSION_ENTRIES(X)  \
+  ZTHALF_CONVERSION_ENTRY(X, Single)  \
+  ZTHALF_CONVERSION_ENTRY(X, Double)  \
+  ZTHALF_CONVERSION_ENTRY(X, UInt8)   \
+  ZTHALF_CONVERSION_ENTRY(X, Int8)    \
+  ZTHALF_CONVERSION_ENTRY(X, UInt16)  \
+  ZTHALF_CONVERSION_ENTRY(X, Int16)   \
+  ZTHALF_CONVERSION_ENTRY(X, UInt32)  \
+  ZTHALF_CONVERSION_ENTRY(X, Int32)   \
+  ZTHALF_CONVERSION_ENTRY(X, UInt64)  \
+  ZTHALF_CONVERSION_ENTRY(X, Int64)   \
+  ZTHALF_CONVERSION_ENTRY(X, Logical)
+
+#define ZTHALF_BITWISE_ENTRIES(X)                                            \
+  X(uminus, uminus, Half, Half, uminus<element::Half>)                       \
+  X(cplxUminus, uminus, CplxHalf, CplxHalf, uminus<element::CplxHalf>)       \
+  X(abs, abs, Half, Half, abs<element::Half>)                                \
+  X(cplxReal, real, CplxHalf, Half, cplxReal<element::Half>)                 \
+  X(cplxImag, imag, CplxHalf, Half, cplxImag<element::Half>)                 \
+  X(cplxConj, conj, CplxHalf, CplxHalf, cplxConj<element::Half>)             \
+  X(realToComplex, realToComplex, Half, CplxHalf, realToComplex<element::Half>) \
+  X(sign, sign, Half, Half, sign<element::Half>)
+
+#define ZTHALF_CLASSIFICATION_ENTRIES(X)                                      \
+  X(isnan, isnan, Half, Logical, isnan<element::Half>)                        \
+  X(cplxIsnan, isnan, CplxHalf, Logical, isnan<element::CplxHalf>)            \
+  X(isinf, isinf, Half, Logical, isinf<element::Half>)                        \
+  X(cplxIsinf, isinf, CplxHalf, Logical, isinf<element::CplxHalf>)            \
+  X(isfinite, isfinite, Half, Logical, isfinite<element::Half>)               \
+  X(cplxIsfinite, isfinite, CplxHalf, Logical, isfinite<element::CplxHalf>)
+
+#define ZTHALF_SPACING_ENTRIES(X) X(eps, eps, Half, Half, eps<element::Half>)
+
+// Plain functions, not templates.
+#define ZTHALF_ROUNDING_ENTRIES(X)   \
+  X(ceil, ceil, Half, Half, ceil)    \
+  X(fix, fix, Half, Half, fix)       \
+  X(floor, floor, Half, Half, floor) \
+  X(round, round, Half, Half, round)
+
+#define ZTHALF_UNARY_ENTRIES(X)    \
+  ZTHALF_CONVERSION_ENTRIES(X)     \
+  ZTHALF_BITWISE_ENTRIES(X)        \
+  ZTHALF_CLASSIFICATION_ENTRIES(X) \
+  ZTHALF_SPACING_ENTRIES(X)        \
+  ZTHALF_ROUNDING_ENTRIES(X)
+
+// Query rows: X(entry, facade name, input tag, function in namespace half); the function takes bare patterns.
+#define ZTHALF_QUERY_ENTRIES(X) X(isImagZero, isImagZero, CplxHalf, isImagZero)
+
+// Binary rows with implicit expansion: X(operation, left tag, right tag, output tag). The entry is the operation with
+// the two operand tags; the template instance has all three.
+#define ZTHALF_PLUS_ENTRIES(X) X(plus, Half, Half, Half)
+
+#define ZTHALF_BINARY_ENTRIES(X) ZTHALF_PLUS_ENTRIES(X)

@@ -1,0 +1,18 @@
+// The signatures of the table's entries, each shape stated once.
+#pragma once
+
+namespace half_ptr {
+
+template <class In, class Out>
+using unary_entry = void(In*, Out*, unsigned long);
+
+template <class In>
+using query_entry = bool(In*, unsigned long);
+
+template <class Left, class Right, class Out>
+using binary_entry = void(Left*, Right*, Out*,                                  //
+                          unsigned long, unsigned long, unsigned long const*,   // left: count, dimensions, sizes
+                          unsigned long, unsigned long, unsigned long const*,   // right
+                          unsigned long, unsigned long, unsigned long const*);  // output
+
+}  // namespace half_ptr

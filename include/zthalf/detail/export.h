@@ -1,0 +1,8 @@
+// The two words that decide what leaves the library.
+#pragma once
+
+#if defined(__GNUC__)
+#define ZTHALF_API __attribute__((visibility("default")))
+#else
+#error "zthalf is built and used with GCC or clang"
+#endif

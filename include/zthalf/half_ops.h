@@ -1,0 +1,60 @@
+// The operations behind the table, as templates on element types.
+#pragma once
+
+#include <complex>
+
+#include "zthalf/detail/export.h"
+#include "zthalf/half_t.h"
+
+/// What the entries of half_ptr.h point to. The templates are declared here and instantiated in the library for the
+/// element types of the table only; another instance does not link. Arguments, results and overlap are those of the
+/// half_vector function of the same name, with fp16binary_t for half_t.
+namespace half {
+
+template <class From, class To>
+ZTHALF_API void convert(From* src, To* dst, unsigned long n);
+
+template <class T>
+ZTHALF_API void uminus(T* src, T* dst, unsigned long n);
+template <class T>
+ZTHALF_API void abs(T* src, typename realType<T>::type* dst, unsigned long n);
+template <class T>
+ZTHALF_API void cplxReal(std::complex<T>* src, T* dst, unsigned long n);
+template <class T>
+ZTHALF_API void cplxImag(std::complex<T>* src, T* dst, unsigned long n);
+template <class T>
+ZTHALF_API void cplxConj(std::complex<T>* src, std::complex<T>* dst, unsigned long n);
+template <class T>
+ZTHALF_API void realToComplex(T* src, std::complex<T>* dst, unsigned long n);
+template <class T>
+ZTHALF_API void sign(T* src, T* dst, unsigned long n);
+
+template <class T>
+ZTHALF_API void isnan(T* src, bool* dst, unsigned long n);
+template <class T>
+ZTHALF_API void isinf(T* src, bool* dst, unsigned long n);
+template <class T>
+ZTHALF_API void isfinite(T* src, bool* dst, unsigned long n);
+
+template <class T>
+ZTHALF_API void eps(T* src, typename realType<T>::type* dst, unsigned long n);
+
+ZTHALF_API void ceil(fp16binary_t* src, fp16binary_t* dst, unsigned long n);
+ZTHALF_API void fix(fp16binary_t* src, fp16binary_t* dst, unsigned long n);
+ZTHALF_API void floor(fp16binary_t* src, fp16binary_t* dst, unsigned long n);
+ZTHALF_API void round(fp16binary_t* src, fp16binary_t* dst, unsigned long n);
+
+/// Whether every imaginary part is a zero of either sign; true for an empty array.
+ZTHALF_API bool isImagZero(std::complex<unsigned short>* src, unsigned long n);
+
+/// Whether no element, or no part of one, is an infinity or a NaN; true for an empty array. For T fp16binary_t or
+/// std::complex of it. More than 2048 elements are scanned on several threads.
+template <class T>
+ZTHALF_API bool isWholeArrayFinite(T* src, unsigned long n);
+
+template <class Left, class Right, class Out>
+ZTHALF_API void plus(Left* a, Right* b, Out* c, unsigned long na, unsigned long ndimsA, unsigned long const* dimsA,
+                     unsigned long nb, unsigned long ndimsB, unsigned long const* dimsB, unsigned long nc,
+                     unsigned long ndimsC, unsigned long const* dimsC);
+
+}  // namespace half

@@ -1,0 +1,86 @@
+// Functions of single half values.
+#pragma once
+
+#include "zthalf/detail/export.h"
+#include "zthalf/half_t.h"
+
+/// None of these functions has a failure path, throws, keeps state or touches the floating-point environment; all may
+/// be called from any thread.
+namespace half_scalar {
+
+/// |x|: the sign bit cleared, of a NaN too.
+ZTHALF_API half_t abs(half_t x);
+/// -1, +0 or +1; a zero of either sign gives +0 and a NaN gives itself, unchanged.
+ZTHALF_API half_t sign(half_t x);
+
+ZTHALF_API bool isnan(half_t x);
+ZTHALF_API bool isinf(half_t x);
+/// Whether x is neither an infinity nor a NaN.
+ZTHALF_API bool isfinite(half_t x);
+
+/// Rounding to an integer: ceil upwards, floor downwards, fix towards zero, round to nearest with ties away from zero.
+/// A zero result has the sign of x. From 1024 on, and for infinities and NaNs, the result is x, a signalling NaN
+/// included.
+ZTHALF_API half_t ceil(half_t x);
+ZTHALF_API half_t floor(half_t x);
+ZTHALF_API half_t fix(half_t x);
+ZTHALF_API half_t round(half_t x);
+
+/// The distance from |x| to the next larger half: 2^-10 at 1.0, 2^-24 at zero and at subnormals. Infinities and NaNs
+/// of either sign give the NaN 0x7E00.
+ZTHALF_API half_t eps(half_t x);
+
+/// The neighbour of x in the direction of y. A NaN x comes back, else a NaN y, both unchanged. Where x equals y the
+/// result is y, so that the sign of a zero comes from y. From a zero the step leads to the smallest subnormal with the
+/// sign of y, from 65504 towards infinity to infinity, from infinity to 65504.
+ZTHALF_API half_t nextafter(half_t x, half_t y);
+
+/// The distance of a and b in units in the last place of half at the smaller exponent of the two.
+///
+/// A float or double operand takes part with its full width, and with the half it rounds to where exponents are
+/// compared. Two NaNs are 0 apart, one NaN is infinitely far from anything else. +0 and -0 are 0.5 apart, and so are
+/// 65504 and infinity of the same sign. An infinity is 0 from what rounds to the same infinity and otherwise infinitely
+/// far away.
+ZTHALF_API double ulp(half_t a, half_t b);
+ZTHALF_API double ulp(half_t a, float b);
+ZTHALF_API double ulp(half_t a, double b);
+ZTHALF_API double ulp(float a, half_t b);
+ZTHALF_API double ulp(double a, half_t b);
+
+/// Conversions between numbers and half patterns.
+///
+/// To half: to nearest, ties to even, in one rounding from every type, a double included; from 65520 on an infinity.
+/// A NaN gives 0x7E00 with its sign.
+/// From half: float and double hold every half exactly, and a NaN keeps its sign and payload. An integer is the nearest
+/// one, ties away from zero, held in its type's range; infinities give the range's ends and a NaN gives 0. To an
+/// unsigned type every pattern with the sign bit set gives 0. Logical is false for the two zeros and true for all else,
+/// a NaN included.
+namespace impl {
+
+ZTHALF_API unsigned short convertSingleToHalf(float value);
+ZTHALF_API unsigned short convertDoubleToHalf(double value);
+ZTHALF_API unsigned short convertUint8ToHalf(unsigned char value);
+ZTHALF_API unsigned short convertInt8ToHalf(signed char value);
+ZTHALF_API unsigned short convertUint16ToHalf(unsigned short value);
+ZTHALF_API unsigned short convertInt16ToHalf(short value);
+ZTHALF_API unsigned short convertUint32ToHalf(unsigned int value);
+ZTHALF_API unsigned short convertInt32ToHalf(int value);
+ZTHALF_API unsigned short convertUint64ToHalf(unsigned long long value);
+ZTHALF_API unsigned short convertInt64ToHalf(long long value);
+ZTHALF_API unsigned short convertLogicalToHalf(bool value);
+
+ZTHALF_API float convertHalfToSingle(unsigned short pattern);
+ZTHALF_API double convertHalfToDouble(unsigned short pattern);
+ZTHALF_API unsigned char convertHalfToUint8(unsigned short pattern);
+ZTHALF_API signed char convertHalfToInt8(unsigned short pattern);
+ZTHALF_API unsigned short convertHalfToUint16(unsigned short pattern);
+ZTHALF_API short convertHalfToInt16(unsigned short pattern);
+ZTHALF_API unsigned int convertHalfToUint32(unsigned short pattern);
+ZTHALF_API int convertHalfToInt32(unsigned short pattern);
+ZTHALF_API unsigned long long convertHalfToUint64(unsigned short pattern);
+ZTHALF_API long long convertHalfToInt64(unsigned short pattern);
+ZTHALF_API bool convertHalfToLogical(unsigned short pattern);
+
+}  // namespace impl
+
+}  // namespace half_scalar

@@ -1,0 +1,96 @@
+// Array operations on half data: the interface that most callers want.
+#pragma once
+
+#include "zthalf/detail/element_types.h"
+#include "zthalf/detail/entries.h"
+#include "zthalf/detail/export.h"
+
+/// Operations on arrays of half_t and std::complex<half_t>.
+///
+/// Common to all of them, where a function does not say otherwise:
+/// - The caller owns every buffer, and the output has room for all results. Counts are numbers of elements. Nothing is
+///   checked: neither pointers nor counts nor shapes. A count of 0 reads and writes nothing, and the pointers may then
+///   be null.
+/// - Element i of the output is computed from element i of the input exactly as the scalar function of half_scalar.h
+///   computes it, bit for bit, whatever the processor, the array's length or its alignment.
+/// - Elements are processed in ascending order. Source and destination may be the same array if their elements have the
+///   same size; where they overlap in another way, each element is read after the earlier ones have been written.
+/// - Work is done on the calling thread. Calls on different arrays may run at the same time.
+/// - There are no errors and nothing is thrown: NaN and infinity are ordinary values.
+namespace half_vector {
+
+#define ZTHALF_DECLARE_UNARY(entry, facade, In, Out, ...) \
+  ZTHALF_API void facade(element::In* src, element::Out* dst, unsigned long n);
+#define ZTHALF_DECLARE_QUERY(entry, facade, In, instance) ZTHALF_API bool facade(element::In* src, unsigned long n);
+#define ZTHALF_DECLARE_BINARY(op, Left, Right, Out)                                                                  \
+  ZTHALF_API void op(element::Left* a, element::Right* b, element::Out* c, unsigned long na, unsigned long ndimsA,   \
+                     unsigned long const* dimsA, unsigned long nb, unsigned long ndimsB, unsigned long const* dimsB, \
+                     unsigned long nc, unsigned long ndimsC, unsigned long const* dimsC);
+
+/// convertToHalf(T* src, half_t* dst, unsigned long n) and convertFromHalf(half_t* src, T* dst, unsigned long n), for T
+/// any of float, double, unsigned char, signed char, unsigned short, short, unsigned int, int, unsigned long long,
+/// long long and bool.
+///
+/// To half: nearest, ties to even, in one rounding from every type; from 65520 on an infinity; a NaN becomes 0x7E00
+/// with its sign. A bool element is a byte, and every byte but 0 gives 1.0.
+/// From half: float and double are exact, a NaN keeping its payload. An integer is rounded to nearest with ties away
+/// from zero and held in its type's range; infinities give the range's ends, a NaN gives 0. A bool is true for
+/// everything but the two zeros, a NaN included.
+ZTHALF_CONVERSION_ENTRIES(ZTHALF_DECLARE_UNARY)
+
+/// Bit work on the patterns; NaNs keep their payload.
+///
+/// uminus (real or complex): the sign bit flipped, NaN included; the imaginary part of a complex result is never -0.
+/// abs (real): the sign bit cleared.
+/// real, imag: the parts of a complex array.
+/// conj: the imaginary part negated, but never -0.
+/// realToComplex: the source as real part, an imaginary part of +0.
+/// sign (real): -1, +0 or +1; a zero of either sign gives +0, a NaN gives itself.
+ZTHALF_BITWISE_ENTRIES(ZTHALF_DECLARE_UNARY)
+
+/// isnan, isinf (real or complex): whether the element, or either of its parts, is a NaN or an infinity.
+/// isfinite: whether the element, or both of its parts, are neither.
+ZTHALF_CLASSIFICATION_ENTRIES(ZTHALF_DECLARE_UNARY)
+
+/// eps (real): the distance from |x| to the next larger half, at least 2^-24; 0x7E00 for infinities and NaNs.
+ZTHALF_SPACING_ENTRIES(ZTHALF_DECLARE_UNARY)
+
+/// ceil, floor, fix (towards zero), round (to nearest, ties away from zero). A zero result keeps the sign of the
+/// source; infinities and NaNs come back unchanged.
+ZTHALF_ROUNDING_ENTRIES(ZTHALF_DECLARE_UNARY)
+
+/// isImagZero: whether every imaginary part is a zero of either sign; true for an empty array. More than 2048 elements
+/// are scanned on several threads.
+ZTHALF_QUERY_ENTRIES(ZTHALF_DECLARE_QUERY)
+
+/// plus: the sum of two arrays with implicit expansion, for each element as half_t's operator of the same name.
+///
+/// Each array is described by its number of elements, its number of dimensions and their sizes, first dimension fastest
+/// in memory. In each dimension the sizes of the two operands agree or one of them is 1, a missing dimension counting
+/// as 1, and the output has the larger size; such an operand's elements are repeated along that dimension. These shapes
+/// must be consistent: nothing is checked. Where both operands have as many elements as the output they meet one by
+/// one, whatever their dimensions; one element meets every element of the other side. In these two cases the output may
+/// be one of the operands. In the general case it must not overlap them, and small working arrays are allocated: a
+/// failure to get them throws std::bad_alloc, or std::length_error for an absurd number of dimensions.
+ZTHALF_BINARY_ENTRIES(ZTHALF_DECLARE_BINARY)
+
+#undef ZTHALF_DECLARE_UNARY
+#undef ZTHALF_DECLARE_QUERY
+#undef ZTHALF_DECLARE_BINARY
+
+/// The distance of a[i] and b[i] in units in the last place of half, at the smaller exponent of the two: out[i] as
+/// half_scalar::ulp tells. Operands that are not half are compared at full width; where neither is, the unit and the
+/// question whether one is infinite are those of the halves that they round to. For complex operands the larger one of
+/// the distances of the real and of the imaginary parts. All three arrays have n elements; there is no expansion.
+ZTHALF_API void ulp(half_t* a, half_t* b, double* out, unsigned long n);
+ZTHALF_API void ulp(half_t* a, float* b, double* out, unsigned long n);
+ZTHALF_API void ulp(half_t* a, double* b, double* out, unsigned long n);
+ZTHALF_API void ulp(float* a, half_t* b, double* out, unsigned long n);
+ZTHALF_API void ulp(float* a, float* b, double* out, unsigned long n);
+ZTHALF_API void ulp(float* a, double* b, double* out, unsigned long n);
+ZTHALF_API void ulp(double* a, half_t* b, double* out, unsigned long n);
+ZTHALF_API void ulp(double* a, float* b, double* out, unsigned long n);
+ZTHALF_API void ulp(double* a, double* b, double* out, unsigned long n);
+ZTHALF_API void ulp(std::complex<half_t>* a, std::complex<half_t>* b, double* out, unsigned long n);
+
+}  // namespace half_vector

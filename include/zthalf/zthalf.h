@@ -1,0 +1,9 @@
+// Everything the library offers.
+#pragma once
+
+#include "zthalf/half_ops.h"
+#include "zthalf/half_ptr.h"
+#include "zthalf/half_scalar.h"
+#include "zthalf/half_t.h"
+#include "zthalf/half_vector.h"
+#include "zthalf/lifecycle.h"

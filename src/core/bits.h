@@ -1,0 +1,34 @@
+// Bit views of the machine's floats, and the word that keeps helpers inside the pass that uses them.
+// Internal: promises nothing to users of the library.
+#pragma once
+
+#include <bit>
+#include <cstdint>
+
+// A wide pass is compiled for an instruction level of its own. Whatever it calls must be merged into it, or the call
+// would run baseline code one element at a time; the compilers' own judgement is not enough for that.
+#define ZTHALF_INLINE inline __attribute__((always_inline))
+
+namespace zthalf {
+
+ZTHALF_INLINE constexpr std::uint32_t bitsOf(float value) { return std::bit_cast<std::uint32_t>(value); }
+ZTHALF_INLINE constexpr std::uint64_t bitsOf(double value) { return std::bit_cast<std::uint64_t>(value); }
+ZTHALF_INLINE constexpr float floatOf(std::uint32_t word) { return std::bit_cast<float>(word); }
+ZTHALF_INLINE constexpr double doubleOf(std::uint64_t word) { return std::bit_cast<double>(word); }
+
+ZTHALF_INLINE constexpr float valueOf(std::uint32_t word) { return floatOf(word); }
+ZTHALF_INLINE constexpr double valueOf(std::uint64_t word) { return doubleOf(word); }
+
+// All ones where the condition holds: the form of a selection that every vector unit has.
+template <class Word>
+ZTHALF_INLINE constexpr Word maskOf(bool condition) {
+  return static_cast<Word>(-static_cast<Word>(condition));
+}
+
+// first where the mask is all ones, second where it is zero.
+template <class Word>
+ZTHALF_INLINE constexpr Word select(Word mask, Word first, Word second) {
+  return static_cast<Word>((first & mask) | (second & ~mask));
+}
+
+}  // namespace zthalf

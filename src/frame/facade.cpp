@@ -1,0 +1,45 @@
+// The facade: each function loads its entry of the table and jumps to it with all arguments as they came.
+#include "zthalf/half_ptr.h"
+#include "zthalf/half_vector.h"
+
+namespace half_vector {
+
+namespace {
+
+// The facade's element types and the templates' are the same storage under two names.
+fp16binary_t* stored(half_t* p) { return reinterpret_cast<fp16binary_t*>(p); }
+std::complex<fp16binary_t>* stored(std::complex<half_t>* p) { return reinterpret_cast<std::complex<fp16binary_t>*>(p); }
+template <class T>
+T* stored(T* p) {
+  return p;
+}
+
+std::complex<unsigned short>* bare(std::complex<half_t>* p) {
+  return reinterpret_cast<std::complex<unsigned short>*>(p);
+}
+
+}  // namespace
+
+#define ZTHALF_FORWARD_UNARY(entry, facade, In, Out, ...)             \
+  void facade(element::In* src, element::Out* dst, unsigned long n) { \
+    half_ptr::entry##Ptr(stored(src), stored(dst), n);                \
+  }
+#define ZTHALF_FORWARD_QUERY(entry, facade, In, instance) \
+  bool facade(element::In* src, unsigned long n) { return half_ptr::entry##Ptr(bare(src), n); }
+#define ZTHALF_FORWARD_BINARY(op, Left, Right, Out)                                                                   \
+  void op(element::Left* a, element::Right* b, element::Out* c, unsigned long na, unsigned long ndimsA,               \
+          unsigned long const* dimsA, unsigned long nb, unsigned long ndimsB, unsigned long const* dimsB,             \
+          unsigned long nc, unsigned long ndimsC, unsigned long const* dimsC) {                                       \
+    half_ptr::op##Left##Right##Ptr(stored(a), stored(b), stored(c), na, ndimsA, dimsA, nb, ndimsB, dimsB, nc, ndimsC, \
+                                   dimsC);                                                                            \
+  }
+
+ZTHALF_UNARY_ENTRIES(ZTHALF_FORWARD_UNARY)
+ZTHALF_QUERY_ENTRIES(ZTHALF_FORWARD_QUERY)
+ZTHALF_BINARY_ENTRIES(ZTHALF_FORWARD_BINARY)
+
+#undef ZTHALF_FORWARD_UNARY
+#undef ZTHALF_FORWARD_QUERY
+#undef ZTHALF_FORWARD_BINARY
+
+}  // namespace half_vector

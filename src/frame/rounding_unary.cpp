@@ -1,0 +1,39 @@
+// Rounding to integers and spacing, on arrays.
+#include "frame/instantiate.h"
+#include "frame/simple_loop.h"
+#include "scalar/functors/elementwise_functors.h"
+#include "scalar/functors/rounding_functors.h"
+#include "zthalf/half_ops.h"
+
+namespace half {
+
+using half_utils::unaryOpSimpleLoop;
+namespace functor = scalar::emulated;
+
+template <class Op>
+using roundingTo = utils::ElementwiseUnaryOpFtor<Op, utils::combineRealComplexFtor, 2048, 128>;
+
+void ceil(fp16binary_t* src, fp16binary_t* dst, unsigned long n) {
+  unaryOpSimpleLoop(src, dst, n, roundingTo<functor::realOps::ceilFtor>{});
+}
+
+void fix(fp16binary_t* src, fp16binary_t* dst, unsigned long n) {
+  unaryOpSimpleLoop(src, dst, n, roundingTo<functor::realOps::fixFtor>{});
+}
+
+void floor(fp16binary_t* src, fp16binary_t* dst, unsigned long n) {
+  unaryOpSimpleLoop(src, dst, n, roundingTo<functor::realOps::floorFtor>{});
+}
+
+void round(fp16binary_t* src, fp16binary_t* dst, unsigned long n) {
+  unaryOpSimpleLoop(src, dst, n, roundingTo<functor::realOps::roundFtor>{});
+}
+
+template <class T>
+void eps(T* src, typename realType<T>::type* dst, unsigned long n) {
+  unaryOpSimpleLoop(src, dst, n, functor::epsFtor{});
+}
+
+ZTHALF_SPACING_ENTRIES(ZTHALF_INSTANTIATE_UNARY)
+
+}  // namespace half

@@ -1,0 +1,24 @@
+// The table's variables, filled statically: no code runs to make them.
+#include "zthalf/half_ops.h"
+#include "zthalf/half_ptr.h"
+
+namespace half_ptr {
+
+namespace element = half::element;
+
+#define ZTHALF_FILL_UNARY(entry, facade, In, Out, ...) \
+  unary_entry<element::In, element::Out>* entry##Ptr = &half::__VA_ARGS__;
+#define ZTHALF_FILL_QUERY(entry, facade, In, instance) query_entry<half::storage::In>* entry##Ptr = &half::instance;
+#define ZTHALF_FILL_BINARY(op, Left, Right, Out)                                    \
+  binary_entry<element::Left, element::Right, element::Out>* op##Left##Right##Ptr = \
+      &half::op<element::Left, element::Right, element::Out>;
+
+ZTHALF_UNARY_ENTRIES(ZTHALF_FILL_UNARY)
+ZTHALF_QUERY_ENTRIES(ZTHALF_FILL_QUERY)
+ZTHALF_BINARY_ENTRIES(ZTHALF_FILL_BINARY)
+
+#undef ZTHALF_FILL_UNARY
+#undef ZTHALF_FILL_QUERY
+#undef ZTHALF_FILL_BINARY
+
+}  // namespace half_ptr

@@ -1,0 +1,71 @@
+// Functors of rounding and spacing.
+// Internal: promises nothing to users of the library.
+#pragma once
+
+#include <algorithm>
+#include <complex>
+
+#include "scalar/rounding.h"
+#include "scalar/spacing.h"
+#include "zthalf/half_t.h"
+
+namespace half::scalar::emulated {
+
+namespace realOps {
+
+struct ceilFtor {
+  ZTHALF_INLINE fp16binary_t operator()(fp16binary_t x) const { return {zthalf::ceilOf(x.bits)}; }
+};
+
+struct floorFtor {
+  ZTHALF_INLINE fp16binary_t operator()(fp16binary_t x) const { return {zthalf::floorOf(x.bits)}; }
+};
+
+struct fixFtor {
+  ZTHALF_INLINE fp16binary_t operator()(fp16binary_t x) const { return {zthalf::fixOf(x.bits)}; }
+};
+
+struct roundFtor {
+  ZTHALF_INLINE fp16binary_t operator()(fp16binary_t x) const { return {zthalf::roundOf(x.bits)}; }
+};
+
+}  // namespace realOps
+
+struct epsFtor {
+  static constexpr unsigned long grain = 256;
+  ZTHALF_INLINE fp16binary_t operator()(fp16binary_t x) const { return {zthalf::epsOf(x.bits)}; }
+};
+
+// The distance in units in the last place; of complex values the larger one of the two parts.
+struct ulpFtor {
+  static constexpr unsigned long grain = 128;
+  static constexpr bool baseOnly = true;  // a chain of tests
+
+  template <class A, class B>
+  double operator()(A a, B b) const {
+    return zthalf::ulpDistance(plain(a), plain(b));
+  }
+
+  template <class A, class B>
+  double operator()(std::complex<A> a, std::complex<B> b) const {
+    return std::max((*this)(a.real(), b.real()), (*this)(a.imag(), b.imag()));
+  }
+
+  // A real operand has an imaginary part of plus zero.
+  template <class A, class B>
+  double operator()(std::complex<A> a, B b) const {
+    return (*this)(a, std::complex<B>(b, B{}));
+  }
+
+  template <class A, class B>
+  double operator()(A a, std::complex<B> b) const {
+    return (*this)(std::complex<A>(a, A{}), b);
+  }
+
+ private:
+  static std::uint16_t plain(fp16binary_t x) { return x.bits; }
+  static float plain(float x) { return x; }
+  static double plain(double x) { return x; }
+};
+
+}  // namespace half::scalar::emulated

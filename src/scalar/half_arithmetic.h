@@ -1,0 +1,54 @@
+// Arithmetic and order of halves, on patterns.
+// Internal: promises nothing to users of the library.
+#pragma once
+
+#include <cstdint>
+
+#include "core/float_conversion.h"
+#include "core/nan_policy.h"
+#include "core/patterns.h"
+
+namespace zthalf {
+
+// One float operation between two exact widenings and one rounding. The product of two halves is exact in float; a sum
+// or a quotient is rounded to float first and then to half, and that double rounding is the result: do not widen it.
+// settled() gets the operands in the order of the defining unit: the right one first for + and *, the left one first
+// for - and /.
+
+ZTHALF_INLINE std::uint16_t sumOf(std::uint16_t a, std::uint16_t b) {
+  return settled(narrow(widen<float>(b) + widen<float>(a)), b, a);
+}
+
+ZTHALF_INLINE std::uint16_t differenceOf(std::uint16_t a, std::uint16_t b) {
+  return settled(narrow(widen<float>(a) - widen<float>(b)), a, b);
+}
+
+ZTHALF_INLINE std::uint16_t productOf(std::uint16_t a, std::uint16_t b) {
+  return settled(narrow(widen<float>(b) * widen<float>(a)), b, a);
+}
+
+ZTHALF_INLINE std::uint16_t quotientOf(std::uint16_t a, std::uint16_t b) {
+  return settled(narrow(widen<float>(a) / widen<float>(b)), a, b);
+}
+
+// The order of halves, without widening. Every test with a NaN is false but isUnequal.
+
+ZTHALF_INLINE bool isEqual(std::uint16_t a, std::uint16_t b) {
+  return !pattern::isNaN(a) && !pattern::isNaN(b) && (a == b || ((a | b) & pattern::magnitudeBits) == 0);
+}
+
+ZTHALF_INLINE bool isUnequal(std::uint16_t a, std::uint16_t b) { return !isEqual(a, b); }
+
+ZTHALF_INLINE bool isLess(std::uint16_t a, std::uint16_t b) {
+  return !pattern::isNaN(a) && !pattern::isNaN(b) && pattern::orderKey(a) < pattern::orderKey(b);
+}
+
+ZTHALF_INLINE bool isGreater(std::uint16_t a, std::uint16_t b) { return isLess(b, a); }
+
+ZTHALF_INLINE bool isLessOrEqual(std::uint16_t a, std::uint16_t b) {
+  return !pattern::isNaN(a) && !pattern::isNaN(b) && pattern::orderKey(a) <= pattern::orderKey(b);
+}
+
+ZTHALF_INLINE bool isGreaterOrEqual(std::uint16_t a, std::uint16_t b) { return isLessOrEqual(b, a); }
+
+}  // namespace zthalf
