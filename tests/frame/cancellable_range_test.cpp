@@ -22,10 +22,10 @@ struct bounds {
   unsigned long begin, end, grain;
 };
 
-const bounds examples[] = {{0, 0, 1},   {5, 5, 1},         {7, 3, 1},           {0, 1, 1},    {0, 2, 1},
-                           {0, 2, 2},   {3, 10, 2},        {3, 10, 6},          {3, 10, 7},   {3, 10, 8},
-                           {0, 257, 256}, {0, 256, 256},   {1000, 5096, 256},   {0, -1UL, 3}, {-9UL, -1UL, 3},
-                           {1UL << 63, -1UL, 256}};
+const bounds examples[] = {{0, 0, 1},         {5, 5, 1},    {7, 3, 1},       {0, 1, 1},
+                           {0, 2, 1},         {0, 2, 2},    {3, 10, 2},      {3, 10, 6},
+                           {3, 10, 7},        {3, 10, 8},   {0, 257, 256},   {0, 256, 256},
+                           {1000, 5096, 256}, {0, -1UL, 3}, {-9UL, -1UL, 3}, {1UL << 63, -1UL, 256}};
 
 TEST(CancellableRange, HoldsEndBeginGrainAndFlagInThisOrder) {
   bool flag = false;

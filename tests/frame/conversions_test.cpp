@@ -94,15 +94,15 @@ TEST(ConvertFromHalf, WidensExactlyAndKeepsNaNsAsTheyAre) {
 }
 
 TEST(ConvertFromHalf, RoundsTiesAwayFromZeroAndSaturates) {
-  expectFromHalf<unsigned char>(0x3800, 1);     // 0.5
-  expectFromHalf<unsigned char>(0x4100, 3);     // 2.5
-  expectFromHalf<unsigned char>(0x5BFC, 255);   // 255.5
+  expectFromHalf<unsigned char>(0x3800, 1);    // 0.5
+  expectFromHalf<unsigned char>(0x4100, 3);    // 2.5
+  expectFromHalf<unsigned char>(0x5BFC, 255);  // 255.5
   expectFromHalf<unsigned char>(0x7C00, 255);
   expectFromHalf<unsigned char>(0xBC00, 0);
   expectFromHalf<unsigned char>(0xFE00, 0);
-  expectFromHalf<signed char>(0xB800, -1);      // -0.5
-  expectFromHalf<signed char>(0xD7F8, -128);    // -127.5
-  expectFromHalf<signed char>(0x57F8, 127);     // 127.5
+  expectFromHalf<signed char>(0xB800, -1);    // -0.5
+  expectFromHalf<signed char>(0xD7F8, -128);  // -127.5
+  expectFromHalf<signed char>(0x57F8, 127);   // 127.5
   expectFromHalf<short>(0x7800, 32767);
   expectFromHalf<short>(0xF800, -32768);
   expectFromHalf<unsigned short>(0x7C00, 65535);

@@ -148,8 +148,8 @@ TEST(UnaryEarlyExitParallel, GivesTheBitsOfTheSerialLoopWhereNothingStops) {
     EXPECT_TRUE((runLoop<unsigned short, unsigned int, isStopper>(source.data(), serial.data(), n)));
     onEachThreadCount([&](int threads) {
       std::vector<unsigned int> parallel(n + 1, 9);
-      EXPECT_TRUE(unaryWithEarlyExitParallel(source.data(), parallel.data(), n, scrambleFtor<unsigned int>{},
-                                             isStopper{}));
+      EXPECT_TRUE(
+          unaryWithEarlyExitParallel(source.data(), parallel.data(), n, scrambleFtor<unsigned int>{}, isStopper{}));
       EXPECT_EQ(parallel, serial) << n << " elements on " << threads << " threads";
     });
   }
@@ -164,8 +164,8 @@ TEST(UnaryEarlyExitParallel, IsFalseForAStopperAnywhereAndWritesNothingButResult
       auto stopping = source;
       stopping[stop] = stopper;
       std::vector<unsigned int> result(n, 9);
-      EXPECT_FALSE(unaryWithEarlyExitParallel(stopping.data(), result.data(), n, scrambleFtor<unsigned int>{},
-                                              isStopper{}));
+      EXPECT_FALSE(
+          unaryWithEarlyExitParallel(stopping.data(), result.data(), n, scrambleFtor<unsigned int>{}, isStopper{}));
       EXPECT_EQ(result[stop], 9u);
       for (unsigned long i = 0; i < n; ++i) {
         ASSERT_TRUE(result[i] == 9 || result[i] == scrambleFtor<unsigned int>{}(source[i])) << "element " << i;
@@ -215,8 +215,7 @@ TEST(UnaryEarlyExitLoop, RunsAMillionElementsOnTheCallingThread) {
   std::vector<unsigned short> source(million, 1), result(million);
   onThreads(4, [&] {
     witness.expectOnlyThisThread();
-    EXPECT_TRUE(
-        halfUnarySimpleLoopWithEarlyExit(source.data(), result.data(), million, witnessFtor{}, witnessPred{}));
+    EXPECT_TRUE(halfUnarySimpleLoopWithEarlyExit(source.data(), result.data(), million, witnessFtor{}, witnessPred{}));
     EXPECT_GE(witness.calls(), 2 * million);
     EXPECT_EQ(witness.strangers(), 0u);
   });

@@ -50,9 +50,12 @@ struct pairing {
   unsigned long left, right, n;  // element counts
 };
 
-const pairing pairings[] = {{"scalar on the left", 1, 129, 129}, {"scalar on the right", 129, 1, 129},
-                            {"one pair", 1, 1, 1},               {"row against column", 12, 11, 132},
-                            {"column of one", 40, 3, 120},       {"equal sizes", 100, 100, 100},
+const pairing pairings[] = {{"scalar on the left", 1, 129, 129},
+                            {"scalar on the right", 129, 1, 129},
+                            {"one pair", 1, 1, 1},
+                            {"row against column", 12, 11, 132},
+                            {"column of one", 40, 3, 120},
+                            {"equal sizes", 100, 100, 100},
                             {"output shorter than the product", 12, 11, 100}};
 
 template <class Ftor, class Pred, class Out>
@@ -76,7 +79,7 @@ void checkPlaces(pairing const& p, std::vector<std::size_t> const& places, std::
 }
 
 TEST(BinaryEarlyExitLoop, PairsQuotientWithRemainder) {
-  std::vector<std::size_t> places{1024, 1024 + 2, 1024 + 4};  // apart
+  std::vector<std::size_t> places{1024, 1024 + 2, 1024 + 4};                        // apart
   for (std::size_t at = 4096 - 80; at <= 4096 + 80; at += 2) places.push_back(at);  // on the left operand
   for (std::size_t at = 8192 - 80; at <= 8192 + 80; at += 2) places.push_back(at);  // on the right one
   for (pairing const& p : pairings) {

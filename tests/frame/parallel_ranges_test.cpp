@@ -21,8 +21,8 @@ struct loopSize {
   unsigned long n, grain;
 };
 
-const loopSize sizes[] = {{0, 1},     {0, 128},    {1, 1},     {1, 128},   {7, 1},        {127, 128},
-                          {128, 128}, {129, 128},  {1283, 128}, {4097, 64}, {100'003, 256}, {100'003, 4096}};
+const loopSize sizes[] = {{0, 1},     {0, 128},   {1, 1},      {1, 128},   {7, 1},         {127, 128},
+                          {128, 128}, {129, 128}, {1283, 128}, {4097, 64}, {100'003, 256}, {100'003, 4096}};
 
 class visitCounts {
  public:
@@ -50,7 +50,8 @@ void checkVisits(Loop loop) {
       counts.expectOnceEach();
       const unsigned long fewest = n == 0 ? 0 : 1;
       const unsigned long most = n <= grain ? fewest : n;
-      EXPECT_THAT(counts.pieces(), ::testing::AllOf(::testing::Ge(fewest), ::testing::Le(most))) << n << " by " << grain;
+      EXPECT_THAT(counts.pieces(), ::testing::AllOf(::testing::Ge(fewest), ::testing::Le(most)))
+          << n << " by " << grain;
     }
   });
 }

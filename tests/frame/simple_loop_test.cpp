@@ -54,9 +54,9 @@ struct splitFtor {
 
 template <class In, class Out>
 void checkSimpleLoop() {
-  checkLoop<In, Out>([](In* src, Out* dst, unsigned long n) {
-    half_utils::unaryOpSimpleLoop(src, dst, n, scrambleFtor<Out>{});
-  }, scrambleFtor<Out>{});
+  checkLoop<In, Out>(
+      [](In* src, Out* dst, unsigned long n) { half_utils::unaryOpSimpleLoop(src, dst, n, scrambleFtor<Out>{}); },
+      scrambleFtor<Out>{});
 }
 
 TEST(UnaryOpSimpleLoop, IsTheAscendingPassForEveryPairOfSizes) {
@@ -180,7 +180,9 @@ struct witnessFtor {
     witness.called();
     return x;
   }
-  void operator()(unsigned short x, unsigned short& first, unsigned short& second) const { first = second = (*this)(x); }
+  void operator()(unsigned short x, unsigned short& first, unsigned short& second) const {
+    first = second = (*this)(x);
+  }
 };
 
 TEST(SimpleLoops, RunAMillionElementsOnTheCallingThread) {

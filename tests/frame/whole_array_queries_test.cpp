@@ -114,8 +114,7 @@ const question<std::complex<half_t>> complexQuestions[] = {
      [](std::complex<half_t> z) { return isNotFinite(z); }},
     {"half_vector::isImagZero", [](std::complex<half_t>* z, unsigned long n) { return half_vector::isImagZero(z, n); },
      &hasImaginaryPart},
-    {"isImagZeroPtr",
-     [](std::complex<half_t>* z, unsigned long n) { return half_ptr::isImagZeroPtr(bare(z), n); },
+    {"isImagZeroPtr", [](std::complex<half_t>* z, unsigned long n) { return half_ptr::isImagZeroPtr(bare(z), n); },
      &hasImaginaryPart},
     {"half::isImagZero", [](std::complex<half_t>* z, unsigned long n) { return half::isImagZero(bare(z), n); },
      &hasImaginaryPart}};
@@ -139,14 +138,17 @@ void checkEveryPattern(question<T> const& asked, T (*elementOf)(half_t), T good)
 
 TEST(WholeArrayQueries, JudgeEveryPattern) {
   for (auto const& asked : realQuestions) {
-    checkEveryPattern<half_t>(asked, [](half_t x) { return x; }, half_t{0x3C00});
+    checkEveryPattern<half_t>(
+        asked, [](half_t x) { return x; }, half_t{0x3C00});
   }
   for (auto const& asked : complexQuestions) {
     const std::complex<half_t> good(half_t{0xBC00}, half_t{0x8000});
-    checkEveryPattern<std::complex<half_t>>(asked, [](half_t x) { return std::complex<half_t>(x, half_t{0}); }, good);
-    checkEveryPattern<std::complex<half_t>>(asked, [](half_t x) { return std::complex<half_t>(half_t{0}, x); }, good);
-    checkEveryPattern<std::complex<half_t>>(asked, [](half_t x) { return std::complex<half_t>(half_t{0x7BFF}, x); },
-                                            good);
+    checkEveryPattern<std::complex<half_t>>(
+        asked, [](half_t x) { return std::complex<half_t>(x, half_t{0}); }, good);
+    checkEveryPattern<std::complex<half_t>>(
+        asked, [](half_t x) { return std::complex<half_t>(half_t{0}, x); }, good);
+    checkEveryPattern<std::complex<half_t>>(
+        asked, [](half_t x) { return std::complex<half_t>(half_t{0x7BFF}, x); }, good);
   }
 }
 

@@ -72,9 +72,9 @@ struct drawer<T> {
 template <std::integral T>
 struct drawer<T> {
   static T draw(bitSource& bits) {
-    static constexpr std::initializer_list<long long> corners = {0,     1,     2,     127,   128,   255,   256,   2047,
-                                                                 2048,  2049,  2051,  32767, 32768, 65503, 65504, 65505,
-                                                                 65519, 65520, 65535, 65536, 65537, 1LL << 31};
+    static constexpr std::initializer_list<long long> corners = {
+        0,     1,     2,     127,   128,   255,   256,   2047,  2048,  2049,  2051,
+        32767, 32768, 65503, 65504, 65505, 65519, 65520, 65535, 65536, 65537, 1LL << 31};
     const auto edges = {std::numeric_limits<T>::min(), std::numeric_limits<T>::max()};
     const auto sign = bits() % 2 != 0 ? ~0ULL : 0ULL;
     switch (bits() % 4) {

@@ -35,23 +35,23 @@ struct unaryRow {
 namespace element = half_vector::element;
 
 // The rows name their template instances relative to namespace half.
-#define ZTHALF_ROW_OPERATION(entryName, facadeName, In, Out, ...)                                                   \
-  namespace operations {                                                                                            \
-  inline void entryName(half_vector::element::In* src, half_vector::element::Out* dst, unsigned long n) {           \
-    namespace element = half::element;                                                                              \
-    half::__VA_ARGS__(stored(src), stored(dst), n);                                                                 \
-  }                                                                                                                 \
+#define ZTHALF_ROW_OPERATION(entryName, facadeName, In, Out, ...)                                         \
+  namespace operations {                                                                                  \
+  inline void entryName(half_vector::element::In* src, half_vector::element::Out* dst, unsigned long n) { \
+    namespace element = half::element;                                                                    \
+    half::__VA_ARGS__(stored(src), stored(dst), n);                                                       \
+  }                                                                                                       \
   }
 ZTHALF_UNARY_ENTRIES(ZTHALF_ROW_OPERATION)
 #undef ZTHALF_ROW_OPERATION
 
-#define ZTHALF_VISIT_ROW(entryName, facadeName, In, Out, ...)                                                 \
-  visit(unaryRow<element::In, element::Out>{                                                                  \
-      #entryName, &half_vector::facadeName,                                                                   \
-      [](element::In* src, element::Out* dst, unsigned long n) {                                              \
-        half_ptr::entryName##Ptr(stored(src), stored(dst), n);                                                \
-      },                                                                                                      \
-      &operations::entryName,                                                                                 \
+#define ZTHALF_VISIT_ROW(entryName, facadeName, In, Out, ...)    \
+  visit(unaryRow<element::In, element::Out>{                     \
+      #entryName, &half_vector::facadeName,                      \
+      [](element::In* src, element::Out* dst, unsigned long n) { \
+        half_ptr::entryName##Ptr(stored(src), stored(dst), n);   \
+      },                                                         \
+      &operations::entryName,                                    \
       [](loaded<element::In> x) { return rule::exactly<element::Out>(rule::facadeName(x)); }});
 
 // visit(row) for every unary row.
