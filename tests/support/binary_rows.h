@@ -1,0 +1,79 @@
+// The binary rows of the entry list as data: the three roads to each operation.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+
+#include "tests/support/shapes.h"
+#include "tests/support/unary_rows.h"
+#include "zthalf/half_ops.h"
+#include "zthalf/half_ptr.h"
+#include "zthalf/half_vector.h"
+
+namespace zthalf::testing {
+
+template <class Left, class Right, class Out>
+struct binaryRow {
+  using left = Left;
+  using right = Right;
+  using output = Out;
+  using pass = half_ptr::binary_entry<Left, Right, Out>*;
+
+  char const* name;
+  pass facade;     // half_vector::...
+  pass entry;      // through half_ptr::...Ptr
+  pass operation;  // half::...
+
+  // One road, with the counts and sizes of a meeting.
+  static void call(pass road, Left* a, Right* b, Out* c, meetingShapes const& shapes) {
+    road(a, b, c, countOf(shapes.a), shapes.a.size(), shapes.a.data(), countOf(shapes.b), shapes.b.size(),
+         shapes.b.data(), countOf(shapes.c), shapes.c.size(), shapes.c.data());
+  }
+
+  // The result for one pair of elements. It is asked for twice, over different bytes, so that a call which writes
+  // nothing cannot pass for a result.
+  Out ofOnePair(loaded<Left> x, loaded<Right> y) const {
+    Out results[2];
+    std::memset(static_cast<void*>(&results[0]), 0x00, sizeof(Out));
+    std::memset(static_cast<void*>(&results[1]), 0xFF, sizeof(Out));
+    for (Out& result : results) {
+      const unsigned long one = 1;
+      facade(reinterpret_cast<Left*>(&x), reinterpret_cast<Right*>(&y), &result, 1, 1, &one, 1, 1, &one, 1, 1, &one);
+    }
+    EXPECT_EQ(std::memcmp(&results[0], &results[1], sizeof(Out)), 0) << name << " of one pair is not written";
+    return results[0];
+  }
+};
+
+#define ZTHALF_ROW_OPERATION(op, Left, Right, Out)                                                                     \
+  [](element::Left* a, element::Right* b, element::Out* c, unsigned long na, unsigned long ndimsA,                     \
+     unsigned long const* dimsA, unsigned long nb, unsigned long ndimsB, unsigned long const* dimsB, unsigned long nc, \
+     unsigned long ndimsC, unsigned long const* dimsC) {                                                               \
+    namespace element = half::element;                                                                                 \
+    half::op<element::Left, element::Right, element::Out>(stored(a), stored(b), stored(c), na, ndimsA, dimsA, nb,      \
+                                                          ndimsB, dimsB, nc, ndimsC, dimsC);                           \
+  }
+#define ZTHALF_ROW_ENTRY(op, Left, Right, Out)                                                                         \
+  [](element::Left* a, element::Right* b, element::Out* c, unsigned long na, unsigned long ndimsA,                     \
+     unsigned long const* dimsA, unsigned long nb, unsigned long ndimsB, unsigned long const* dimsB, unsigned long nc, \
+     unsigned long ndimsC, unsigned long const* dimsC) {                                                               \
+    half_ptr::op##Left##Right##Ptr(stored(a), stored(b), stored(c), na, ndimsA, dimsA, nb, ndimsB, dimsB, nc, ndimsC,  \
+                                   dimsC);                                                                             \
+  }
+#define ZTHALF_VISIT_ROW(op, Left, Right, Out)                                                         \
+  visit(binaryRow<element::Left, element::Right, element::Out>{#op #Left #Right, &half_vector::op,     \
+                                                               ZTHALF_ROW_ENTRY(op, Left, Right, Out), \
+                                                               ZTHALF_ROW_OPERATION(op, Left, Right, Out)});
+
+// visit(row) for every binary row.
+template <class Visit>
+void forEachBinaryRow(Visit visit) {
+  ZTHALF_BINARY_ENTRIES(ZTHALF_VISIT_ROW)
+}
+
+#undef ZTHALF_VISIT_ROW
+#undef ZTHALF_ROW_ENTRY
+#undef ZTHALF_ROW_OPERATION
+
+}  // namespace zthalf::testing

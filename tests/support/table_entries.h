@@ -1,0 +1,57 @@
+// All entries of the table as data, read from the entry list.
+#pragma once
+
+#include "zthalf/half_ops.h"
+#include "zthalf/half_ptr.h"
+#include "zthalf/half_vector.h"
+
+namespace zthalf::testing {
+
+namespace table_rows {
+
+namespace element = half::element;
+namespace facade_element = half_vector::element;
+
+// A facade function has the parameters of its entry, with half_t for the stored types.
+#define ZTHALF_VISIT_UNARY(entry, facade, In, Out, ...)   \
+  visit(#entry, half_ptr::entry##Ptr, &half::__VA_ARGS__, \
+        static_cast<half_ptr::unary_entry<facade_element::In, facade_element::Out>*>(&half_vector::facade));
+#define ZTHALF_VISIT_QUERY(entry, facade, In, instance) \
+  visit(#entry, half_ptr::entry##Ptr, &half::instance,  \
+        static_cast<half_ptr::query_entry<facade_element::In>*>(&half_vector::facade));
+#define ZTHALF_VISIT_BINARY(op, Left, Right, Out)                                                                 \
+  visit(#op #Left #Right, half_ptr::op##Left##Right##Ptr, &half::op<element::Left, element::Right, element::Out>, \
+        static_cast<half_ptr::binary_entry<facade_element::Left, facade_element::Right, facade_element::Out>*>(   \
+            &half_vector::op));
+
+// visit(name, entry, implementation, facade function) for every entry, where entry is the table's own variable.
+template <class Visit>
+void forEachEntry(Visit visit) {
+  ZTHALF_UNARY_ENTRIES(ZTHALF_VISIT_UNARY)
+  ZTHALF_QUERY_ENTRIES(ZTHALF_VISIT_QUERY)
+  ZTHALF_BINARY_ENTRIES(ZTHALF_VISIT_BINARY)
+}
+
+#undef ZTHALF_VISIT_UNARY
+#undef ZTHALF_VISIT_QUERY
+#undef ZTHALF_VISIT_BINARY
+
+}  // namespace table_rows
+
+using table_rows::forEachEntry;
+
+// Puts another function into an entry for as long as it lives.
+template <class Function>
+class replacedEntry {
+ public:
+  replacedEntry(Function*& entry, Function* replacement) : entry_(entry), original_(entry) { entry_ = replacement; }
+  ~replacedEntry() { entry_ = original_; }
+  replacedEntry(replacedEntry const&) = delete;
+  replacedEntry& operator=(replacedEntry const&) = delete;
+
+ private:
+  Function*& entry_;
+  Function* original_;
+};
+
+}  // namespace zthalf::testing
