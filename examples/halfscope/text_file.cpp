@@ -1,6 +1,7 @@
 #include "text_file.h"
 
 #include <cerrno>
+#include <cstdint>
 #include <cstdio>
 #include <filesystem>
 #include <memory>
@@ -30,9 +31,9 @@ std::string allBytes(std::FILE* file, std::string const& name) {
   return bytes;
 }
 
-std::string hexByte(unsigned char byte) {
-  char text[8];
-  std::snprintf(text, sizeof text, "0x%02X", static_cast<unsigned>(byte));
+std::string inHex(char const* format, std::uint32_t number) {
+  char text[16];
+  std::snprintf(text, sizeof text, format, static_cast<unsigned>(number));
   return text;
 }
 
@@ -45,10 +46,11 @@ void expectText(textFile const& file) {
     const char32_t c = nextCharacter(text, offset);
     const auto byte = static_cast<unsigned char>(text[start]);
     if (c == malformedUtf8)
-      throw inputError(file.name, locate(text, start), "expected UTF-8 text, found the byte " + hexByte(byte));
+      throw inputError(file.name, locate(text, start), "expected UTF-8 text, found the byte " + inHex("0x%02X", byte));
     const bool allowed = c == '\t' || c == '\n' || c == '\r' || (c >= 0x20 && c < 0x7F) || c > 0x9F;
     if (!allowed)
-      throw inputError(file.name, locate(text, start), "expected text, found the control character " + hexByte(byte));
+      throw inputError(file.name, locate(text, start),
+                       "expected text, found the control character " + inHex("U+%04X", c));
   }
 }
 

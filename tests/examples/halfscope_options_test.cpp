@@ -44,8 +44,14 @@ TEST(Halfscope, HelpNamesEveryOption) {
 }
 
 TEST(Halfscope, SaysSoWhenItCannotWrite) {
-  const int status = std::system((examples::commandOf("halfscope") + " --no-speed >/dev/full 2>/dev/null").c_str());
-  EXPECT_EQ(WEXITSTATUS(status), 1);
+  for (std::string const arguments : {" --no-speed", " --help"}) {  // more and less than a buffer
+    const examples::temporaryFolder folder;
+    std::string command = examples::commandOf("halfscope");
+    command.append(arguments).append(" >/dev/full 2>").append(quotedForShell((folder / "err").string()));
+    const int status = std::system(command.c_str());
+    EXPECT_EQ(WEXITSTATUS(status), 1);
+    EXPECT_EQ(contentsOf(folder / "err"), "halfscope: the output could not be written\n");
+  }
 }
 
 }  // namespace

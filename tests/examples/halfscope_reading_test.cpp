@@ -44,6 +44,7 @@ TEST(Reading, TinyNumbersAreZeros) {
 TEST(Reading, InASingleColumnABlankLineIsAMissingValue) {
   EXPECT_EQ(look("a\n1\n\n3\n\n").out, look("a\n1\nNA\n3\n").out);
   EXPECT_NE(look("a\n1\n\n3\n\n").out, look("a\n1\n3\n").out);
+  EXPECT_EQ(look("a\r\n1\r\n3\r\n").out, look("a\n1\n3\n").out);
 }
 
 TEST(Reading, TextColumnsAreListedAndSkipped) {
@@ -101,13 +102,20 @@ INSTANTIATE_TEST_SUITE_P(
         Refusal{"open quote", "a,b\n1,\"2\n3,4\n", ":2:3: expected a closing quote for the field that begins here"},
         Refusal{"text behind a quote", "a,b\n1,\"2\"3\n",
                 ":2:6: expected a comma or the end of the line after the closing quote"},
-        Refusal{"zero byte", std::string("a,b\n1,2\0\n", 9), ":2:4: expected text, found the control character 0x00"},
-        Refusal{"escape sequence", "a\x1B[2J\n1\n", ":1:2: expected text, found the control character 0x1B"},
+        Refusal{"zero byte", std::string("a,b\n1,2\0\n", 9), ":2:4: expected text, found the control character U+0000"},
+        Refusal{"escape sequence", "a\x1B[2J\n1\n", ":1:2: expected text, found the control character U+001B"},
         Refusal{"executable",
                 "\x7F"
                 "ELF\x02\x01\x01",
-                ":1:1: expected text, found the control character 0x7F"},
+                ":1:1: expected text, found the control character U+007F"},
         Refusal{"Latin-1", "caf\xE9,b\n1,2\n", ":1:4: expected UTF-8 text, found the byte 0xE9"},
+        Refusal{"control character of two bytes", "a\xC2\x9B\n1\n",
+                ":1:2: expected text, found the control character U+009B"},
+        Refusal{"character in more bytes than it needs", "\xE0\x80\xA1\n1\n",
+                ":1:1: expected UTF-8 text, found the byte 0xE0"},
+        Refusal{"half of a surrogate pair", "\xED\xA0\x80\n1\n", ":1:1: expected UTF-8 text, found the byte 0xED"},
+        Refusal{"beyond Unicode", "\xF4\x90\x80\x80\n1\n", ":1:1: expected UTF-8 text, found the byte 0xF4"},
+        Refusal{"character cut short", "a\n1\n\xE2\x82", ":3:1: expected UTF-8 text, found the byte 0xE2"},
         Refusal{"UTF-16",
                 std::string("\xFF\xFE"
                             "a\0\n\0",
