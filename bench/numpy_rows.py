@@ -14,7 +14,9 @@ INTEGERS = {'uint8': np.uint8, 'int8': np.int8, 'uint16': np.uint16, 'int16': np
 FLOATS = {'single': np.float32, 'double': np.float64}
 UNARY = {'uminus': np.negative, 'abs': np.abs, 'sign': np.sign, 'isnan': np.isnan, 'isinf': np.isinf,
          'isfinite': np.isfinite, 'floor': np.floor, 'ceil': np.ceil, 'fix': np.trunc, 'round': np.rint,
-         'eps': np.spacing}
+         'eps': np.spacing, 'exp': np.exp, 'expm1': np.expm1, 'pow2': np.exp2}
+# Of positive numbers only, as for the other subjects.
+POSITIVE = {'log': np.log, 'log1p': np.log1p, 'log2': np.log2, 'log10': np.log10, 'sqrt': np.sqrt}
 EXPANDED = {'expand-none-1000x1000': ((1000, 1000), (1000, 1000)),
             'expand-1000x1-with-1000x1000': ((1000, 1), (1000, 1000)),
             'expand-1x1000-with-1000x1000': ((1, 1000), (1000, 1000)),
@@ -48,6 +50,9 @@ def call_for(row, n):
         source = halves(n)
         target = np.empty(n, np.bool_ if row.startswith('is') else np.float16)
         return lambda: UNARY[row](source, out=target)
+    if row in POSITIVE:
+        source, target = np.abs(halves(n)), np.empty(n, np.float16)
+        return lambda: POSITIVE[row](source, out=target)
     if row in ('plus', 'plus-value'):
         a, b, c = halves(1 if row == 'plus-value' else n), halves(n), np.empty(n, np.float16)
         return lambda: np.add(a, b, out=c)
