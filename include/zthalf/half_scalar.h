@@ -35,6 +35,30 @@ ZTHALF_API half_t eps(half_t x);
 /// sign of y, from 65504 towards infinity to infinity, from infinity to 65504.
 ZTHALF_API half_t nextafter(half_t x, half_t y);
 
+/// Exponentials, logarithms and roots. Each is computed in single precision and rounded to half once, so that but for a
+/// few results next to a tie it is the correctly rounded one. exp alone is coarser: within 0.873 units in the last
+/// place, and about one result in seven is not the nearest half.
+///
+/// NaN results are 0x7E00 with the sign told for each group.
+
+/// exp(x), exp(x) - 1. A NaN keeps its sign; expm1 of a zero is that zero.
+ZTHALF_API half_t exp(half_t x);
+ZTHALF_API half_t expm1(half_t x);
+/// 10 and 2 to the power x. Every NaN gives the negative NaN.
+ZTHALF_API half_t pow10(half_t x);
+ZTHALF_API half_t pow2(half_t x);
+/// The logarithms to base e, 2 and 10, and ln(1 + x). A zero (for log1p: -1) gives -infinity and +infinity gives
+/// itself. A negative number (for log1p: one below -1) gives the negative NaN. A NaN keeps its sign; log1p of a zero is
+/// that zero. log2 of a power of two is exact.
+ZTHALF_API half_t log(half_t x);
+ZTHALF_API half_t log1p(half_t x);
+ZTHALF_API half_t log2(half_t x);
+ZTHALF_API half_t log10(half_t x);
+/// The square root and its reciprocal. -0 counts as +0, so that sqrt gives +0 and rsqrt +infinity. A negative number
+/// gives the positive NaN; a NaN keeps its sign.
+ZTHALF_API half_t sqrt(half_t x);
+ZTHALF_API half_t rsqrt(half_t x);
+
 /// The distance of a and b in units in the last place of half at the smaller exponent of the two.
 ///
 /// A float or double operand takes part with its full width, and with the half it rounds to where exponents are
