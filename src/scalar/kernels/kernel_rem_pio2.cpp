@@ -144,14 +144,14 @@ void normalize(number& fraction) {
 // the sum dropped, found by adding again from the heaviest down.
 reducedAngle timesHalfPi(number const& fraction) {
   const int last = fraction.count;
-  std::array<float, capacity + 1> scaled;
+  std::array<float, capacity + 1> scaled{};
   float weight = exponentRaised(1.0f, fraction.exponent);
   for (int i = last; i >= 0; --i) {
     scaled[i] = weight * static_cast<float>(fraction.digit[i]);
     weight = weight * 0.00390625f;
   }
 
-  std::array<float, capacity + 1> product;
+  std::array<float, capacity + 1> product{};
   for (int i = last; i >= 0; --i) {
     float sum = 0.0f;
     for (int k = 0; k <= lastTerm && k <= last - i; ++k) sum = sum + halfPiDigits[k] * scaled[i + k];
@@ -170,7 +170,7 @@ reducedAngle timesHalfPi(number const& fraction) {
 reducedAngle kernelRemPio2(angleDigits const& x) {
   const int first = std::max(0, (x.exponent - 3) / 8);
   const std::int32_t exponent = x.exponent - 8 * (first + 1);
-  std::array<float, capacity> term;
+  std::array<float, capacity> term{};
   for (int i = 0; i <= lastTerm; ++i) term[i] = termOfProduct(x, first, i);
 
   int last = lastTerm;

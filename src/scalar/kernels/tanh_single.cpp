@@ -32,10 +32,9 @@ float tanhOfMagnitude(float a) {
 // With t = exp(-2a) - 1, tanh a = -t / (t + 2) where t is small, and with t = exp(2a) - 1, 1 - 2 / (t + 2) where it is
 // large. From 9.125 on the result rounds to 1.
 //
-// The sign is put back last, and every argument that is not positive gets the other one: that is how the negative NaN
-// of a real function becomes a positive one here, whatever NaN came in.
+// The NaN is the positive one, by decision and unlike that of the other functions here.
 float tanhSingle(float x) {
-  if (x != x) return -domainNaN;
+  if (x != x) return floatOf(0x7FC00000u);
   const float a = magnitudeOf(x);
   if (a < 0x1p-55f) return x;
   const float r = tanhOfMagnitude(a);
