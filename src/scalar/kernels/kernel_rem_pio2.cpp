@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "scalar/kernels/float_fields.h"
-#include "scalar/kernels/scalbn_single.h"
 #include "scalar/kernels/two_over_pi_digits.h"
 
 namespace qsl_scalar {
@@ -12,8 +11,8 @@ namespace {
 
 // With x * 2/pi = n + f the angle is f * pi/2, and n is wanted modulo 8 only. So the product starts at the first digit
 // of 2/pi that contributes less than a multiple of 8, and goes on until enough digits of f are known: ten terms, and
-// more where f begins with zeros. Everything up to f is exact, since each float in it is a small integer times a power
-// of two; rounding begins with the product f * pi/2.
+// more where f begins with zeros. All of that is exact. Rounding begins with the product f * pi/2, which is formed in
+// single precision; its order of operations is part of the result.
 
 constexpr int lastTerm = 9;   // the product's terms 0 to 9 are always formed
 constexpr int capacity = 16;  // of terms; no float needs more than 14
@@ -32,85 +31,70 @@ constexpr std::array<float, 10> halfPiDigits = {
     floatOf(0x1BC60000u),  // 3.2756352257180363e-22
 };
 
-float twoOverPiDigit(int i) { return i < 0 ? 0.0f : static_cast<float>(twoOverPiDigits[static_cast<unsigned>(i)]); }
-
 // Term i of the product of x with the digits of 2/pi from index first on.
-float termOfProduct(angleDigits const& x, int first, int i) {
-  float sum = 0.0f;
-  for (int j = 0; j < x.count; ++j) sum = sum + x.digit[j] * twoOverPiDigit(first + i - j);
+std::int32_t termOfProduct(angleDigits const& x, int first, int i) {
+  std::int32_t sum = 0;
+  for (int j = 0; j < 3; ++j) {
+    const int index = first + i - j;
+    if (index >= 0) sum += x.digit[static_cast<unsigned>(j)] * twoOverPiDigits[static_cast<unsigned>(index)];
+  }
   return sum;
 }
 
-// The value 2^exponent * (top + digit[count - 1] / 256 + digit[count - 2] / 256^2 + ... + digit[0] / 256^count).
+// The value 2^exponent * (digit[leading] + digit[leading - 1] / 256 + ... + digit[0] / 256^leading).
 struct number {
   std::array<std::int32_t, capacity> digit;
-  int count;
-  float top;
+  int leading;
   std::int32_t exponent;
 };
 
-// Carries from the last of the terms upwards.
-number distilled(std::array<float, capacity> const& term, int last, std::int32_t exponent) {
-  number value{};
-  value.count = last;
-  value.exponent = exponent;
-  float z = term[last];
+// The product's terms with their carries taken upwards: all digits but the leading one are below 256.
+number carried(std::array<std::int32_t, capacity> const& term, int last, std::int32_t exponent) {
+  number value{{}, last, exponent};
+  std::int32_t carry = 0;
   for (int i = 0; i < last; ++i) {
-    const float carry = static_cast<float>(static_cast<std::int32_t>(z * 0.00390625f));
-    value.digit[i] = static_cast<std::int32_t>(z + carry * -256.0f);
-    z = term[last - 1 - i] + carry;
+    const std::int32_t sum = term[last - i] + carry;
+    value.digit[i] = sum & 0xFF;
+    carry = sum >> 8;
   }
-  value.top = z;
+  value.digit[last] = term[0] + carry;
   return value;
 }
 
-// Takes the integer part out of the value and returns it modulo 8; the top is then the part of the fraction that stands
-// above the digits, unscaled. For a positive exponent the integer reaches into the first digit.
+// Takes the integer part out of the value and returns it. Where the leading digit is an integer, the integer part ends
+// inside the next one, or before it, and that becomes the leading digit: afterwards the exponent is from -8 to -1, and
+// the leading digit has that many bits, all of the fraction.
 std::int32_t takeIntegerPart(number& value) {
-  float z = scalbnSingle(value.top, value.exponent);
-  z = z + static_cast<float>(static_cast<std::int32_t>(z * 0.125f)) * -8.0f;
-  auto n = static_cast<std::int32_t>(z);
-  value.top = z - static_cast<float>(n);
-  if (value.exponent > 0) {
-    std::int32_t& leading = value.digit[value.count - 1];
-    const std::int32_t part = leading >> (8 - value.exponent);
-    n = n + part;
-    leading = leading - (part << (8 - value.exponent));
+  std::int32_t upper = 0;
+  if (value.exponent >= 0) {
+    upper = value.digit[value.leading] << value.exponent;
+    --value.leading;
+    value.exponent -= 8;
   }
-  return n;
+  std::int32_t& leading = value.digit[value.leading];
+  const std::int32_t integer = upper + (leading >> -value.exponent);
+  leading &= (1 << -value.exponent) - 1;
+  return integer;
 }
 
-bool isAtLeastHalf(number const& fraction) {
-  if (fraction.exponent < 0) return fraction.top >= 0.5f;
-  return fraction.digit[fraction.count - 1] >> (7 - fraction.exponent) > 0;
-}
+bool isAtLeastHalf(number const& fraction) { return fraction.digit[fraction.leading] >> (-fraction.exponent - 1) != 0; }
 
-// 1 - f by digits: the first digit that is not zero, seen from below, becomes 256 - d, those above 255 - d, and the
-// leading one keeps the bits of the fraction alone. The top takes part for a negative exponent; otherwise it is zero.
+// 1 - f by digits: the first digit that is not zero, seen from below, is taken from its base, those above it from one
+// less. The base of the leading digit is that of its bits.
 void complement(number& fraction) {
-  bool borrowed = false;
-  for (int i = 0; i < fraction.count; ++i) {
-    std::int32_t& digit = fraction.digit[i];
-    if (borrowed) {
-      digit = 255 - digit;
-    } else if (digit != 0) {
-      digit = 256 - digit;
-      borrowed = true;
-    }
-  }
-  if (fraction.exponent > 0) {
-    fraction.digit[fraction.count - 1] &= 0xFF >> fraction.exponent;
-  } else if (fraction.exponent < 0) {
-    fraction.top = 1.0f - fraction.top;
-    if (borrowed) fraction.top = fraction.top - exponentRaised(1.0f, fraction.exponent);
+  std::int32_t borrow = 0;
+  for (int i = 0; i <= fraction.leading; ++i) {
+    const std::int32_t base = i < fraction.leading ? 256 : 1 << -fraction.exponent;
+    const std::int32_t taken = fraction.digit[i] + borrow;
+    fraction.digit[i] = taken == 0 ? 0 : base - taken;
+    borrow = taken == 0 ? 0 : 1;
   }
 }
 
-// How many terms more are needed: none where the fraction shows a digit above the last ten, otherwise one and one for
-// each further leading zero.
+// How many terms more are needed: none where a digit shows above the last nine, otherwise one, and one for each zero
+// with which these nine begin.
 int missingTerms(number const& fraction) {
-  if (fraction.top != 0.0f) return 0;
-  for (int i = fraction.count - 1; i >= lastTerm; --i) {
+  for (int i = fraction.leading; i >= lastTerm; --i) {
     if (fraction.digit[i] != 0) return 0;
   }
   int missing = 1;
@@ -118,41 +102,35 @@ int missingTerms(number const& fraction) {
   return missing;
 }
 
-// Makes digit[count] the leading digit, of weight 2^exponent: the top, or without one the first digit that is not zero.
-// The exponent is at least -8 here, so the top is one digit.
-void normalize(number& fraction) {
-  if (fraction.top != 0.0f) {
-    fraction.digit[fraction.count] = static_cast<std::int32_t>(scalbnSingle(fraction.top, -fraction.exponent));
-    return;
-  }
-  do {
-    --fraction.count;
+void dropLeadingZeros(number& fraction) {
+  while (fraction.digit[fraction.leading] == 0) {
+    --fraction.leading;
     fraction.exponent -= 8;
-  } while (fraction.digit[fraction.count] == 0);
+  }
 }
 
 // f * pi/2 as the sum of the products of equal weight, the lightest ones first; the lower part is what the rounding of
 // the sum dropped, found by adding again from the heaviest down.
 reducedAngle timesHalfPi(number const& fraction) {
-  const int last = fraction.count;
+  const int leading = fraction.leading;
   std::array<float, capacity> scaled{};
   float weight = exponentRaised(1.0f, fraction.exponent);
-  for (int i = last; i >= 0; --i) {
+  for (int i = leading; i >= 0; --i) {
     scaled[i] = weight * static_cast<float>(fraction.digit[i]);
-    weight = weight * 0.00390625f;
+    weight = weight * 0x1p-8f;
   }
 
   std::array<float, capacity> product{};
-  for (int i = last; i >= 0; --i) {
+  for (int i = leading; i >= 0; --i) {
     float sum = 0.0f;
-    for (int k = 0; k <= lastTerm && k <= last - i; ++k) sum = sum + halfPiDigits[k] * scaled[i + k];
-    product[last - i] = sum;
+    for (int k = 0; k <= lastTerm && k <= leading - i; ++k) sum = sum + halfPiDigits[k] * scaled[i + k];
+    product[leading - i] = sum;
   }
 
   float upper = 0.0f;
-  for (int i = last; i >= 0; --i) upper = upper + product[i];
+  for (int i = leading; i >= 0; --i) upper = upper + product[i];
   float lower = product[0] - upper;
-  for (int i = 1; i <= last; ++i) lower = lower + product[i];
+  for (int i = 1; i <= leading; ++i) lower = lower + product[i];
   return {0, upper, lower};
 }
 
@@ -160,19 +138,15 @@ reducedAngle timesHalfPi(number const& fraction) {
 
 reducedAngle kernelRemPio2(angleDigits const& x) {
   const int first = std::max(0, (x.exponent - 3) / 8);
-  const std::int32_t exponent = x.exponent - 8 * (first + 1);
-  std::array<float, capacity> term{};
+  const std::int32_t exponent = x.exponent - 8 * (first + 1);  // from -8 to 2
+  std::array<std::int32_t, capacity> term{};
   for (int i = 0; i <= lastTerm; ++i) term[i] = termOfProduct(x, first, i);
 
-  int last = lastTerm;
-  for (;;) {
-    number fraction = distilled(term, last, exponent);
-    std::int32_t n = takeIntegerPart(fraction);
+  for (int last = lastTerm;;) {
+    number fraction = carried(term, last, exponent);
+    const std::int32_t integer = takeIntegerPart(fraction);
     const bool isRoundedUp = isAtLeastHalf(fraction);
-    if (isRoundedUp) {
-      n = n + 1;
-      complement(fraction);
-    }
+    if (isRoundedUp) complement(fraction);
 
     if (const int missing = missingTerms(fraction); missing > 0) {
       for (int i = last + 1; i <= last + missing; ++i) term[i] = termOfProduct(x, first, i);
@@ -180,9 +154,10 @@ reducedAngle kernelRemPio2(angleDigits const& x) {
       continue;
     }
 
-    normalize(fraction);
+    dropLeadingZeros(fraction);
     const reducedAngle y = timesHalfPi(fraction);
-    return isRoundedUp ? reducedAngle{n & 7, -y.upper, -y.lower} : reducedAngle{n & 7, y.upper, y.lower};
+    return isRoundedUp ? reducedAngle{(integer + 1) & 7, -y.upper, -y.lower}
+                       : reducedAngle{integer & 7, y.upper, y.lower};
   }
 }
 

@@ -10,15 +10,14 @@
 namespace qsl_scalar {
 
 // A positive angle as digits to the base 256: 2^exponent * (digit[0] + digit[1] / 256 + digit[2] / 256^2), with
-// digit[0] at least 128, an exponent of at least 0, and count the number of digits up to the last one that is not zero.
+// digit[0] at least 128 and an exponent from 0 to 120.
 struct angleDigits {
-  std::array<float, 3> digit;
-  int count;
+  std::array<std::int32_t, 3> digit;
   std::int32_t exponent;
 };
 
-// The angle by the nearest multiple of pi/2, that multiple's number modulo 8. Exact to single precision and about as
-// much again for every float: upper is the rounded angle to about 1 unit in the last place.
+// The angle by the nearest multiple of pi/2, that multiple's number modulo 8. The two parts together are right to more
+// than 40 bits, for every float.
 reducedAngle kernelRemPio2(angleDigits const& x);
 
 }  // namespace qsl_scalar

@@ -87,17 +87,11 @@ reducedAngle byRepeatedSteps(float x) {
   return hasSign(x) ? reducedAngle{-n, -upper, -lower} : reducedAngle{n, upper, lower};
 }
 
-// Above: |x| = 2^exponent * z with z in [128, 256), and z as three digits to the base 256.
+// Above: |x| = 2^exponent * z with z in [128, 256), whose three digits to the base 256 are the significand's bytes.
 reducedAngle byDigits(float x) {
-  const std::int32_t exponent = exponentFieldOf(x) - 134;
-  float z = exponentRaised(magnitudeOf(x), -exponent);
-  angleDigits digits{{}, 0, exponent};
-  for (int i = 0; i < 3; ++i) {
-    digits.digit[i] = static_cast<float>(static_cast<std::int32_t>(z));
-    if (digits.digit[i] != 0.0f) digits.count = i + 1;
-    z = (z - digits.digit[i]) * 256.0f;
-  }
-  const reducedAngle y = kernelRemPio2(digits);
+  const auto significand = static_cast<std::int32_t>(fractionBitsOf(x) | hiddenBit);
+  const reducedAngle y =
+      kernelRemPio2({{significand >> 16, significand >> 8 & 0xFF, significand & 0xFF}, exponentFieldOf(x) - 134});
   return hasSign(x) ? reducedAngle{-y.n, -y.upper, -y.lower} : y;
 }
 

@@ -4,7 +4,7 @@
 
 namespace qsl_scalar {
 
-// Within 2 ulp for every float. A zero gives itself, an infinity 1 with its sign, and every NaN the positive NaN
+// Within 2.2 ulp for every float. A zero gives itself, an infinity 1 with its sign, and every NaN the positive NaN
 // 0x7FC00000.
 float tanhSingle(float x);
 

@@ -61,14 +61,14 @@ constexpr std::uint32_t quarterPi = 0x3F490FDB, threeQuarterPi = 0x4016CBE3, mid
 
 TEST(RemPio2Accuracy, OneStep) {
   const double worst = worstBetween(quarterPi, threeQuarterPi);
-  EXPECT_LE(worst, 0x1p-26);
-  EXPECT_GE(worst, 0x1p-48);
+  EXPECT_LE(worst, 0x1p-24);
+  EXPECT_GE(worst, 0x1p-40);
 }
 
 TEST(RemPio2Accuracy, RepeatedSteps) {
   const double worst = worstBetween(threeQuarterPi, middleEnd);
-  EXPECT_LE(worst, 0x1p-26);
-  EXPECT_GE(worst, 0x1p-48);
+  EXPECT_LE(worst, 0x1p-24);
+  EXPECT_GE(worst, 0x1p-40);
 }
 
 TEST(RemPio2Accuracy, Digits) {
