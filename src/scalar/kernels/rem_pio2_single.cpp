@@ -97,8 +97,8 @@ reducedAngle byDigits(float x) {
 
 }  // namespace
 
-// Three ways by magnitude, each right for the arguments of the next one but dearer: one exact subtraction, subtractions
-// of a rounded quotient times pi/2, and the product with the digits of 2/pi.
+// Three ways by magnitude, each of wider range than the one before and dearer: one subtraction of pi/2, subtractions of
+// a rounded quotient times pi/2, and the product with the digits of 2/pi.
 reducedAngle remPio2Single(float x) {
   const std::uint32_t magnitude = magnitudeBitsOf(x);
   if (magnitude <= threeQuarterPi) return byOneStep(x);
