@@ -7,7 +7,6 @@
 if(CMAKE_CROSSCOMPILING)
   # Debian ships GoogleTest for foreign architectures as sources.
   add_subdirectory(/usr/src/googletest ${PROJECT_BINARY_DIR}/googletest EXCLUDE_FROM_ALL)
-  add_library(GTest::gmock ALIAS gmock)
 else()
   find_package(GTest REQUIRED)
 endif()
@@ -53,5 +52,30 @@ function(zthalf_add_test)
       list(APPEND names long/${name})
     endif()
     set_tests_properties(${names} PROPERTIES ENVIRONMENT ZTHALF_TEST_LEVEL=${level} SKIP_RETURN_CODE 77)
+  endforeach()
+endfunction()
+
+# zthalf_add_script_test(NAME name SCRIPT file [ARGUMENTS arguments...] LABELS labels... [LEVELS])
+#
+# The one way a test that is no program of ours is made: a Python script, status 77 for a test that cannot be tried here.
+# LEVELS as above.
+find_package(Python3 REQUIRED COMPONENTS Interpreter)
+
+function(zthalf_add_script_test)
+  cmake_parse_arguments(PARSE_ARGV 0 test "LEVELS" "NAME;SCRIPT" "ARGUMENTS;LABELS")
+  set(levels supported)
+  if(test_LEVELS)
+    set(levels ${ZTHALF_LEVELS})
+  endif()
+  foreach(level IN LISTS levels)
+    set(name ${test_NAME})
+    if(test_LEVELS)
+      string(APPEND name @${level})
+    endif()
+    add_test(NAME ${name}
+      COMMAND ${Python3_EXECUTABLE} -B ${CMAKE_CURRENT_SOURCE_DIR}/${test_SCRIPT} ${test_ARGUMENTS}
+      COMMAND_EXPAND_LISTS)
+    set_tests_properties(${name} PROPERTIES
+      LABELS "${test_LABELS}" ENVIRONMENT ZTHALF_TEST_LEVEL=${level} SKIP_RETURN_CODE 77)
   endforeach()
 endfunction()

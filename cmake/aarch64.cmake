@@ -3,6 +3,8 @@
 set(CMAKE_SYSTEM_NAME Linux)
 set(CMAKE_SYSTEM_PROCESSOR aarch64)
 set(CMAKE_CXX_COMPILER aarch64-linux-gnu-g++)
-set(CMAKE_CROSSCOMPILING_EMULATOR qemu-aarch64-static;-L;/usr/aarch64-linux-gnu;-E;LD_LIBRARY_PATH=/usr/lib/aarch64-linux-gnu:/usr/aarch64-linux-gnu/lib)
 set(CMAKE_LIBRARY_ARCHITECTURE aarch64-linux-gnu)
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
+# Programs run with the loader and the C library that oneTBB's package brings. The cross compiler's own copies under
+# /usr/aarch64-linux-gnu serve to link: a loader of one and a C library of the other hang in the first thread created.
+set(CMAKE_CROSSCOMPILING_EMULATOR qemu-aarch64-static)

@@ -1,0 +1,41 @@
+// The compiler's own half type, where it has one for this set of instructions.
+#include "bench/peers/peers.h"
+
+namespace bench {
+
+#if defined(__FLT16_MAX__)
+namespace {
+
+template <class From, class To, class FromStored, class ToStored>
+void convert(FromStored* src, ToStored* dst, unsigned long n) {
+  auto* from = reinterpret_cast<From*>(src);
+  auto* to = reinterpret_cast<To*>(dst);
+  for (unsigned long i = 0; i < n; ++i) to[i] = static_cast<To>(from[i]);
+}
+
+void plus(half_t* a, half_t* b, half_t* c, unsigned long n) {
+  auto* left = reinterpret_cast<_Float16*>(a);
+  auto* right = reinterpret_cast<_Float16*>(b);
+  auto* out = reinterpret_cast<_Float16*>(c);
+  for (unsigned long i = 0; i < n; ++i) out[i] = left[i] + right[i];
+}
+
+}  // namespace
+#endif
+
+ZTHALF_PEER_EXPORT peerPasses ZTHALF_PEER(float16_)() {
+  peerPasses passes{};
+#if defined(__FLT16_MAX__)
+  passes.name = "_Float16-" ZTHALF_PEER_TEXT(ZTHALF_PEER_SET);
+  passes.halfToSingle = convert<_Float16, float>;
+  passes.singleToHalf = convert<float, _Float16>;
+  passes.halfToDouble = convert<_Float16, double>;
+  passes.doubleToHalf = convert<double, _Float16>;
+  passes.int32ToHalf = convert<int, _Float16>;
+  passes.halfToInt32 = convert<_Float16, int>;
+  passes.plus = plus;
+#endif
+  return passes;
+}
+
+}  // namespace bench

@@ -1,0 +1,42 @@
+// The programs that a newcomer reads first say what their comments promise.
+#include <gtest/gtest.h>
+
+#include "tests/examples/run_program.h"
+
+namespace {
+
+using examples::run;
+
+TEST(SmallPrograms, ConvertShowsValuesPatternsAndWhatTheyBecame) {
+  const auto result = run("convert");
+  EXPECT_EQ(result.status, 0);
+  EXPECT_EQ(result.out,
+            "     double   pattern       as half\n"
+            "          1    0x3C00             1\n"
+            "        0.1    0x2E66   0.0999755859\n"
+            "       2049    0x6800          2048\n"
+            "      65519    0x7BFF         65504\n"
+            "      65520    0x7C00           inf\n"
+            "      1e-08    0x0000             0\n");
+}
+
+TEST(SmallPrograms, HalfValuesCountsUntilItStops) {
+  const auto result = run("half_values");
+  EXPECT_EQ(result.status, 0);
+  EXPECT_EQ(result.out,
+            "1/3 is 0.3332519531, 0.333 units in the last place away\n"
+            "its neighbours are 0.0002441406 apart\n"
+            "2046 and five times one more is 2048\n"
+            "65504 + 65504 is infinity, and that minus itself is not a number\n");
+}
+
+TEST(SmallPrograms, PlusTwoArraysMakesAMatrix) {
+  const auto result = run("plus_two_arrays");
+  EXPECT_EQ(result.status, 0);
+  EXPECT_EQ(result.out,
+            "  -0.90625     297.25\n"
+            "   1.29688      299.5\n"
+            "  0.703125        299\n");
+}
+
+}  // namespace

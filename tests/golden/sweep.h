@@ -1,0 +1,202 @@
+// Runs a function over its fixed inputs and prints one line: its name, the number of results, a hash of their bits.
+// There is one sweep for each shape of a table entry, found by the entry's type.
+#pragma once
+
+#include <algorithm>
+#include <cstdio>
+#include <cstring>
+#include <string_view>
+#include <tuple>
+#include <type_traits>
+#include <utility>
+#include <vector>
+
+#include "tests/golden/inputs.h"
+
+namespace zthalf::golden {
+
+// FNV-1a over the bytes of the results, which are the same on all machines served: little-endian, no padding.
+class resultHash {
+ public:
+  template <class T>
+  void add(T const* results, std::size_t n) {
+    static_assert(std::is_trivially_copyable_v<T>);
+    auto const* const bytes = reinterpret_cast<unsigned char const*>(results);
+    for (std::size_t i = 0; i < n * sizeof(T); ++i) hash_ = (hash_ ^ bytes[i]) * 0x100000001B3u;
+    count_ += n;
+  }
+  template <class T>
+  void add(T result) {
+    add(&result, 1);
+  }
+
+  void print(std::string_view name) const {
+    std::printf("%-60.*s %8llu %016llx\n", static_cast<int>(name.size()), name.data(), count_, hash_);
+  }
+
+ private:
+  unsigned long long hash_ = 0xCBF29CE484222325u;
+  unsigned long long count_ = 0;
+};
+
+// An argument as the function takes it: logical arrays are bytes here.
+template <class T>
+T* as(storage<T>* array) {
+  return reinterpret_cast<T*>(array);
+}
+
+// At most this many notable values of each operand meet in a grid.
+inline constexpr std::size_t gridSide = 48;
+
+template <class T>
+auto gridOf() {
+  const auto all = inputs<T>::notable();
+  const std::size_t step = (all.size() + gridSide - 1) / gridSide;
+  std::vector<storage<T>> some;
+  for (std::size_t i = 0; i < all.size(); i += step) some.push_back(all[i]);
+  return some;
+}
+
+// The i-th operand of a meeting in no visible order; the multiplier is another one for each operand.
+template <class T>
+std::vector<storage<T>> meetingOf(std::size_t count, std::size_t multiplier) {
+  const auto all = inputs<T>::sweep();
+  std::vector<storage<T>> some(count);
+  for (std::size_t i = 0; i < count; ++i) some[i] = all[(i * multiplier + i / all.size()) % all.size()];
+  return some;
+}
+
+inline constexpr std::size_t meetings = 1 << 15;
+
+// One array in, one out.
+template <class In, class Out>
+void sweep(std::string_view name, void (*entry)(In*, Out*, unsigned long)) {
+  auto src = inputs<In>::sweep();
+  std::vector<storage<Out>> dst(src.size());
+  entry(as<In>(src.data()), as<Out>(dst.data()), src.size());
+  resultHash hash;
+  hash.add(dst.data(), dst.size());
+  hash.print(name);
+}
+
+// The stopping form: each element by itself, and then those that do not stop in one array.
+template <class In, class Out>
+void sweep(std::string_view name, bool (*entry)(In*, Out*, unsigned long)) {
+  auto src = inputs<In>::sweep();
+  std::vector<storage<In>> passing;
+  resultHash hash;
+  for (auto& x : src) {
+    storage<Out> result{};
+    const bool done = entry(as<In>(&x), as<Out>(&result), 1);
+    hash.add(result);
+    hash.add(done);
+    if (done) passing.push_back(x);
+  }
+  std::vector<storage<Out>> dst(passing.size());
+  hash.add(entry(as<In>(passing.data()), as<Out>(dst.data()), passing.size()));
+  hash.add(dst.data(), dst.size());
+  hash.print(name);
+}
+
+// A question about an array: asked of each element, and of all of them.
+template <class In>
+void sweep(std::string_view name, bool (*entry)(In*, unsigned long)) {
+  auto src = inputs<In>::sweep();
+  resultHash hash;
+  for (auto& x : src) hash.add(entry(as<In>(&x), 1));
+  hash.add(entry(as<In>(src.data()), src.size()));
+  hash.print(name);
+}
+
+// One array in, two out.
+template <class In, class Out>
+void sweepTwoOutputs(std::string_view name, void (*entry)(In*, Out*, Out*, unsigned long)) {
+  auto src = inputs<In>::sweep();
+  std::vector<storage<Out>> first(src.size()), second(src.size());
+  entry(as<In>(src.data()), as<Out>(first.data()), as<Out>(second.data()), src.size());
+  resultHash hash;
+  hash.add(first.data(), first.size());
+  hash.add(second.data(), second.size());
+  hash.print(name);
+}
+
+// Two arrays of one size without shapes.
+template <class Left, class Right, class Out>
+void sweep(std::string_view name, void (*entry)(Left*, Right*, Out*, unsigned long)) {
+  auto a = meetingOf<Left>(meetings, 1);
+  auto b = meetingOf<Right>(meetings, 25173);
+  std::vector<storage<Out>> c(meetings);
+  entry(as<Left>(a.data()), as<Right>(b.data()), as<Out>(c.data()), meetings);
+  resultHash hash;
+  hash.add(c.data(), c.size());
+  hash.print(name);
+}
+
+using sizes = unsigned long const*;
+
+template <class Result, class Left, class Right, class Out>
+using expandingBinary = Result (*)(Left*, Right*, Out*, unsigned long, unsigned long, sizes, unsigned long,
+                                   unsigned long, sizes, unsigned long, unsigned long, sizes);
+
+// Two arrays that meet by implicit expansion: element by element, then grids of notable values in which the left
+// operand stays for a run, and in which the right one does.
+template <class Result, class Left, class Right, class Out>
+void sweep(std::string_view name, expandingBinary<Result, Left, Right, Out> entry) {
+  resultHash hash;
+  const auto meet = [&](std::vector<storage<Left>> a, std::vector<storage<Right>> b, sizes dimsA, sizes dimsB) {
+    const unsigned long dimsC[] = {std::max(dimsA[0], dimsB[0]), std::max(dimsA[1], dimsB[1])};
+    std::vector<storage<Out>> c(dimsC[0] * dimsC[1]);
+    const auto call = [&] {
+      return entry(as<Left>(a.data()), as<Right>(b.data()), as<Out>(c.data()), a.size(), 2, dimsA, b.size(), 2, dimsB,
+                   c.size(), 2, dimsC);
+    };
+    if constexpr (std::is_void_v<Result>) {
+      call();
+    } else {
+      hash.add(call());
+    }
+    hash.add(c.data(), c.size());
+  };
+  const unsigned long flat[] = {meetings, 1};
+  meet(meetingOf<Left>(meetings, 1), meetingOf<Right>(meetings, 25173), flat, flat);
+  const auto a = gridOf<Left>();
+  const auto b = gridOf<Right>();
+  const unsigned long columnA[] = {a.size(), 1}, rowA[] = {1, a.size()};
+  const unsigned long columnB[] = {b.size(), 1}, rowB[] = {1, b.size()};
+  meet(a, b, columnA, rowB);
+  meet(a, b, rowA, columnB);
+  hash.print(name);
+}
+
+// All points of a grid, one call for each: the operands' lists of values, first operand fastest.
+template <class... Args, class Visit>
+void forEachPoint(std::tuple<std::vector<storage<Args>>...> const& lists, Visit visit) {
+  const std::size_t points = std::apply([](auto const&... list) { return (list.size() * ...); }, lists);
+  for (std::size_t i = 0; i < points; ++i) {
+    std::size_t rest = i;
+    const auto digit = [&rest](auto const& list) {
+      auto const& value = list[rest % list.size()];
+      rest /= list.size();
+      return value;
+    };
+    std::apply([&](auto const&... list) { std::apply(visit, std::tuple{static_cast<Args>(digit(list))...}); }, lists);
+  }
+}
+
+// A function of single values: over the sweep of its one argument, or over meetings and grids of two or three.
+template <class... Args, class Function>
+void sweepScalar(std::string_view name, Function f) {
+  resultHash hash;
+  if constexpr (sizeof...(Args) == 1) {
+    for (auto const& x : inputs<Args...>::sweep()) hash.add(f(static_cast<Args>(x)...));
+  } else {
+    std::size_t multiplier = 1;
+    const auto met = std::tuple{meetingOf<Args>(meetings, std::exchange(multiplier, multiplier * 25173))...};
+    for (std::size_t i = 0; i < meetings; ++i)
+      hash.add(std::apply([&](auto const&... list) { return f(static_cast<Args>(list[i])...); }, met));
+    forEachPoint<Args...>(std::tuple{gridOf<Args>()...}, [&](Args... x) { hash.add(f(x...)); });
+  }
+  hash.print(name);
+}
+
+}  // namespace zthalf::golden
