@@ -20,6 +20,7 @@ struct heading {
   std::string label;  // over the column
   std::string unit;   // below the label, may be empty
   int rank;           // 0 is never left out; else the highest goes first where the terminal is narrow
+  bool rare = false;  // counts of what seldom happens: a column of zeros goes before all others
 };
 
 struct section {

@@ -8,14 +8,14 @@ namespace halfscope {
 
 namespace {
 
-constexpr std::size_t margin = 2, gap = 2, longestName = 28, shortestName = 14, longestLine = 110;
+constexpr std::size_t margin = 2, gap = 2, longestName = 28, shortestName = 16, longestLine = 110;
 
 struct tableColumn {
   heading const* head;
   std::vector<cell const*> cells;
   std::vector<std::string> texts;  // of the cells, decimal points one below the other
   std::size_t width = 0;
-  bool quiet = false;  // nothing but zeros, which tells a reader no more than the column's absence
+  bool quiet = false;  // rare things that did not happen, which the column's absence tells as well
   bool shown = true;
 };
 
@@ -44,7 +44,7 @@ tableColumn columnOf(section const& s, std::size_t j) {
     c.cells.push_back(&row[j]);
     c.texts.push_back(row[j].text);
   }
-  c.quiet = std::all_of(c.texts.begin(), c.texts.end(), [](std::string const& text) { return text == "0"; });
+  c.quiet = c.head->rare && std::all_of(c.texts.begin(), c.texts.end(), [](auto const& text) { return text == "0"; });
   if (j > 0) alignPoints(c.texts);
   c.width = std::max(displayWidth(c.head->label), displayWidth(c.head->unit));
   for (auto const& text : c.texts) c.width = std::max(c.width, displayWidth(text));
@@ -58,8 +58,8 @@ std::size_t totalWidth(std::vector<tableColumn> const& columns) {
   return sum;
 }
 
-// Leaves out columns until the rest fit: quiet ones first, then by rank. Where only a little is missing, the names in
-// the first column give way instead.
+// Leaves out columns until the rest fit: quiet ones first, then by rank. Long names in the first column make room
+// before that, and get back what is over.
 void fit(std::vector<tableColumn>& columns, std::size_t width) {
   std::vector<tableColumn*> order;
   for (auto& c : columns) order.push_back(&c);
@@ -67,16 +67,13 @@ void fit(std::vector<tableColumn>& columns, std::size_t width) {
   std::stable_sort(order.begin(), order.end(),
                    [&](auto const* a, auto const* b) { return dispensability(a) > dispensability(b); });
   std::size_t& nameWidth = columns[0].width;
+  const std::size_t wantedName = nameWidth;
+  nameWidth = std::min(nameWidth, shortestName);
   for (tableColumn* c : order) {
-    const std::size_t total = totalWidth(columns);
-    if (total <= width) return;
-    const std::size_t excess = total - width;
-    if (nameWidth > shortestName && excess <= (nameWidth - shortestName) / 2) {
-      nameWidth -= excess;
-      return;
-    }
-    if (c->head->rank > 0) c->shown = false;
+    if (totalWidth(columns) > width && c->head->rank > 0) c->shown = false;
   }
+  const std::size_t total = totalWidth(columns);
+  if (total < width) nameWidth = std::min(wantedName, nameWidth + width - total);
 }
 
 std::string padded(std::string const& text, std::size_t width, bool left) {

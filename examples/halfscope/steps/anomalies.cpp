@@ -86,11 +86,13 @@ std::string notice(std::vector<columnAnomalies> const& columns) {
                           ": beyond half there is only infinity, and infinity minus infinity is not a number.");
   if (worst == nullptr) return text;
   if (worst->typicalUlps > 0.5)
-    addSentence(text, nameInText(worst->name) +
-                          (columns.size() > 1 ? " shows it most: s" : ": s") + "mall deviations carry the rounding error of values near " +
-                          valueText(worst->mean) + ", off by up to " + valueText(worst->largestError) +
-                          " and typically by " + ulpText(worst->typicalUlps) +
+    addSentence(text, nameInText(worst->name) + (columns.size() > 1 ? " shows it most: s" : ": s") +
+                          "mall deviations carry the rounding error of values near " + valueText(worst->mean) +
+                          ", off by up to " + valueText(worst->largestError) + " and typically by " +
+                          ulpText(worst->typicalUlps) +
                           " units in their own last place. Subtract before rounding to half where that matters.");
+  else if (nearest == kept)
+    addSentence(text, "Every deviation is the nearest half to the true one.");
   else
     addSentence(text, shareText(nearest, kept) + "% of the deviations are the nearest halves to the true ones.");
   return text;
@@ -103,7 +105,7 @@ std::vector<heading> headings() {
           {"minimum", "min", "result", 2},
           {"maximum", "max", "result", 2},
           {"nearest", "nearest", "%", 1},
-          {"lost", "lost", "inf, NaN", 4},
+          {"lost", "lost", "inf, NaN", 2, true},
           {"largest_error", "max err", "in value", 3},
           {"typical_error_ulp", "typical err", "ulp", 1},
           {"largest_error_ulp", "max err", "ulp", 5}};

@@ -111,13 +111,17 @@ std::string notice(std::vector<columnRounding> const& columns) {
   if (under.vanished > 0)
     addSentence(text, nameInText(under.name) + " fades out: " + someOf(under.vanished, under.values) +
                           " are too small for half and become zero.");
-  if (merged.finite > 0 && merged.distinctHalves < merged.distinctValues)
-    addSentence(text, nameInText(merged.name) + " keeps " + countText(merged.distinctHalves) + " of its " +
-                          countText(merged.distinctValues) + " different values: at the top of its range halves are " +
-                          valueText(merged.spacing) + " apart.");
-  else if (error.largestUlps > 0)
-    addSentence(text, "Values stay apart from each other; " + nameInText(error.name) + " is off by up to " +
+  const bool told = (over.overflowed > 0 && &merged == &over) || (under.vanished > 0 && &merged == &under);
+  if (merged.finite > 0 && merged.distinctHalves < merged.distinctValues) {
+    if (!told)
+      addSentence(text, nameInText(merged.name) + " keeps " + countText(merged.distinctHalves) + " of its " +
+                            countText(merged.distinctValues) +
+                            " different values: at the top of its range halves are " + valueText(merged.spacing) +
+                            " apart.");
+  } else if (error.largestUlps > 0) {
+    addSentence(text, "No two values fall together; " + nameInText(error.name) + " is off by up to " +
                           valueText(error.largestError) + ".");
+  }
   addSentence(text, exactColumns(columns));
   return text;
 }
@@ -125,17 +129,17 @@ std::string notice(std::vector<columnRounding> const& columns) {
 std::vector<heading> headings() {
   return {{"column", "column", "", 0},
           {"values", "values", "", 4},
-          {"missing", "missing", "", 5},
+          {"missing", "missing", "", 4, true},
           {"minimum", "min", "", 2},
           {"maximum", "max", "", 1},
           {"exact", "exact", "%", 1},
           {"distinct_values", "distinct", "in file", 7},
           {"distinct_halves", "distinct", "as half", 7},
-          {"overflows", "to inf", "", 3},
-          {"vanished", "to zero", "", 8},
-          {"subnormal", "subnormal", "", 5},
+          {"overflows", "to inf", "", 3, true},
+          {"vanished", "to zero", "", 3, true},
+          {"subnormal", "subnormal", "", 3, true},
           {"largest_error", "max err", "in value", 3},
-          {"largest_error_ulp", "max err", "ulp", 4},
+          {"largest_error_ulp", "max err", "ulp", 5},
           {"mean_error_ulp", "mean err", "ulp", 6},
           {"spacing", "spacing", "at max", 9}};
 }

@@ -1,0 +1,104 @@
+"""Small faults, each of which some test must notice.
+
+A fault replaces one stretch of one file, which must occur there exactly once. The tests are those that should see it, as
+a regular expression on their names; the hashed results are left out where a test with a reference of its own exists,
+since they would notice anything. A fault of the build itself, or one that only wide code shows, is built as the release
+is; all others are built with little optimisation, which is quicker.
+"""
+from collections import namedtuple
+
+Fault = namedtuple('Fault', 'name file old new tests release', defaults=(False,))
+
+FLOAT = 'src/core/float_conversion.h'
+INTEGER = 'src/core/integer_conversion.h'
+NAN = 'src/core/nan_policy.h'
+EARLY_EXIT = 'src/frame/early_exit_loop.h'
+EXPANSION = 'src/elementwise/expansion.cpp'
+CONTRACT = 'cmake/CompileContract.cmake'
+
+FAULTS = [
+    # Conversions
+    Fault('ties are rounded away from zero', FLOAT,
+          'bitsOf(held + power)', 'bitsOf(valueOf(bitsOf(held) | 1) + power)', '^core/float'),
+    Fault('from 65520 on comes 65504', FLOAT,
+          'magnitude < Wide(65536) ? magnitude : Wide(65536)', 'magnitude < Wide(65519) ? magnitude : Wide(65519)',
+          '^core/float'),
+    Fault('a narrowed NaN loses its sign', FLOAT,
+          'return finite | sign | quiet;', 'return finite | (x != x ? 0 : sign) | quiet;', '^core/float'),
+    Fault('a widened subnormal is a normal', FLOAT,
+          'select(isSubnormal, subnormal, normal)', 'select(isSubnormal & (magnitude - 1 >= 1), subnormal, normal)',
+          '^core/float'),
+    Fault('integers from 65505 on are infinite', INTEGER,
+          'magnitude > 0xFFFF;', 'magnitude > 65504;', '^core/integer'),
+    Fault('0.5 is rounded to the integer 0', INTEGER,
+          'widen<float>(finite) + 0.5f', 'widen<float>(finite) + 0.49999997f', '^core/integer'),
+
+    # NaNs
+    Fault('an invalid operation gives the processor\'s NaN', NAN,
+          'rounded & ~(resultNaN & pattern::signBit)', 'rounded & ~(resultNaN & 0)', '^(core/nan|scalar/half)'),
+    Fault('a signalling second operand does not win', NAN,
+          'static_cast<std::uint16_t>(secondSignals & ~firstSignals)',
+          'static_cast<std::uint16_t>(secondSignals & ~firstSignals & 0)', '^(core/nan|scalar/half)'),
+    Fault('the left NaN of a sum wins', 'src/scalar/half_arithmetic.h',
+          'widen<float>(b) + widen<float>(a)), b, a)', 'widen<float>(b) + widen<float>(a)), a, b)', '^scalar/half'),
+
+    # Scalar functions
+    Fault('minus zero is less than zero', 'src/core/patterns.h',
+          '(magnitudeOf(x) ^ flip) - flip', '(magnitudeOf(x) ^ flip)', '^(core/patterns|scalar/order)'),
+    Fault('round goes down from halfway', 'src/scalar/rounding.h',
+          '(below + 1) >> 1', 'below >> 1', '^scalar/rounding'),
+    Fault('nextafter leaves infinity in the wrong direction', 'src/scalar/spacing.h',
+          'up == positive ? x + 1 : x - 1', 'up ? x + 1 : x - 1', '^scalar/spacing'),
+
+    # Loops
+    Fault('a loop with early exit writes one element too many', EARLY_EXIT,
+          '''    if (stop(src[i])) return false;
+    dst[i] = f(src[i]);
+  }
+  return true;
+}
+
+// The same result by blocks''', '''    dst[i] = f(src[i]);
+    if (stop(src[i])) return false;
+  }
+  return true;
+}
+
+// The same result by blocks''', '^frame/'),
+    Fault('a scan leaves out the last element', EARLY_EXIT,
+          'pass(src + i, std::min(scanBlock, n - i), &met)', 'pass(src + i, std::min(scanBlock, n - i - 1), &met)',
+          '^frame/'),
+    Fault('a loop runs backwards', 'src/frame/simple_loop.h',
+          'for (unsigned long i = 0; i < n; ++i) dst[i] = Ftor{}(src[i]);',
+          'for (unsigned long i = n; i-- > 0;) dst[i] = Ftor{}(src[i]);', '^frame/'),
+    Fault('a dimension does not go back to its start', EXPANSION,
+          'offset -= step * index;', 'offset -= step * (index - (index > 1));', '^elementwise/'),
+    Fault('an operand of size 1 moves', EXPANSION,
+          'if (s.size(d) < 2) return;', 'if (s.size(d) < 1) return;', '^elementwise/'),
+    Fault('a parallel run starts in the wrong place', EXPANSION,
+          'indexB_[d] = plan_.stepsB[d] == stepB ? 0 : i;', 'indexB_[d] = i;', '^elementwise/'),
+
+    # The table and what is exported
+    Fault('an entry is null', 'src/frame/table.cpp',
+          '* entry##Ptr = &half::instance;', '* entry##Ptr = nullptr;', '^abi/symbols'),
+    Fault('an entry has another entry\'s function', 'include/zthalf/detail/entries.h',
+          'X(ceil, ceil, Half, Half, ceil)', 'X(ceil, ceil, Half, Half, floor)', '^(frame|golden)/'),
+    Fault('code runs when the library is loaded', 'src/frame/lifecycle.cpp',
+          'unsigned char terminated = 0;', 'unsigned char terminated = half_ptr::isInitialized();', '^abi/symbols'),
+    Fault('a function is not exported', 'include/zthalf/half_scalar.h',
+          'ZTHALF_API half_t eps(half_t x);', 'half_t eps(half_t x);', '^abi/exports'),
+    Fault('core looks upwards', 'src/core/scalar_conversions.cpp',
+          '#include "core/integer_conversion.h"', '#include "core/integer_conversion.h"\n#include "scalar/rounding.h"',
+          '^abi/layering'),
+    Fault('the facade goes round the table', 'src/frame/facade.cpp',
+          'return half_ptr::entry##Ptr(bare(src), n);', 'half_ptr::initialized = 1; return half_ptr::entry##Ptr(bare(src), n);',
+          '^abi/facade', True),
+
+    # Compile flags
+    Fault('multiplications and additions are fused', CONTRACT,
+          '-ffp-contract=off ', '-ffp-contract=fast ', '^abi/instructions', True),
+    Fault('element types are taken for distinct memory', CONTRACT,
+          '-fno-strict-aliasing ', '-fstrict-aliasing ', '^frame/', True),
+    Fault('loops with comparisons are not vectorised', CONTRACT,
+          '-fno-trapping-math ', '-ftrapping-math ', '^abi/vectorised', True),
+]
