@@ -59,6 +59,35 @@ ZTHALF_API half_t log10(half_t x);
 ZTHALF_API half_t sqrt(half_t x);
 ZTHALF_API half_t rsqrt(half_t x);
 
+/// Trigonometric and hyperbolic functions and their inverses, computed and rounded in the same way. Angles are in
+/// radians, and every finite half is reduced to full accuracy, however large.
+
+/// A zero is its own sine and tangent. Infinities and NaNs of either sign give the negative NaN.
+ZTHALF_API half_t sin(half_t x);
+ZTHALF_API half_t cos(half_t x);
+ZTHALF_API half_t tan(half_t x);
+/// sin(pi x) and cos(pi x), exact at every multiple of 1/2: sinpi of an integer is a zero with the sign of x, or of x's
+/// remainder by 2, taken in [-1, 1]; cospi of an odd multiple of 1/2 is +0. Infinities and NaNs of either sign give the
+/// negative NaN.
+ZTHALF_API half_t sinpi(half_t x);
+ZTHALF_API half_t cospi(half_t x);
+/// Outside [-1, 1], and for a NaN of either sign, the negative NaN. acos of 1 is +0.
+ZTHALF_API half_t asin(half_t x);
+ZTHALF_API half_t acos(half_t x);
+/// Half pi, rounded, with the sign of an infinite x. A NaN of either sign gives the negative NaN.
+ZTHALF_API half_t atan(half_t x);
+/// Infinite for an infinite x. A NaN keeps its sign.
+ZTHALF_API half_t sinh(half_t x);
+ZTHALF_API half_t cosh(half_t x);
+/// 1 with the sign of an infinite x. A NaN of either sign gives the positive NaN.
+ZTHALF_API half_t tanh(half_t x);
+/// A zero, an infinity or a NaN gives itself, the NaN made quiet.
+ZTHALF_API half_t asinh(half_t x);
+/// Below 1, and for a NaN with its sign set, the negative NaN; the other NaNs give the positive one. acosh of 1 is +0.
+ZTHALF_API half_t acosh(half_t x);
+/// An infinity with the sign of x at 1 and -1. Beyond, and for a NaN of either sign, the negative NaN.
+ZTHALF_API half_t atanh(half_t x);
+
 /// The distance of a and b in units in the last place of half at the smaller exponent of the two.
 ///
 /// A float or double operand takes part with its full width, and with the half it rounds to where exponents are

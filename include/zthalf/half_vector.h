@@ -72,15 +72,29 @@ ZTHALF_EXPONENTIAL_ENTRIES(ZTHALF_DECLARE_UNARY)
 /// log, log1p, log2, log10 (real): outside the domain the result is the NaN 0xFE00.
 ZTHALF_LOGARITHM_ENTRIES(ZTHALF_DECLARE_UNARY)
 
+/// sin, cos, tan, and sinpi, cospi, the sine and cosine of pi times the element, real. Infinities and NaNs give the NaN
+/// 0xFE00.
+ZTHALF_TRIGONOMETRIC_ENTRIES(ZTHALF_DECLARE_UNARY)
+ZTHALF_ARC_TANGENT_ENTRIES(ZTHALF_DECLARE_UNARY)
+
+/// sinh, cosh, tanh, asinh, acosh, real. acosh below 1 gives the NaN 0xFE00; tanh of a NaN gives 0x7E00.
+ZTHALF_HYPERBOLIC_ENTRIES(ZTHALF_DECLARE_UNARY)
+
+/// asin, acos, atanh, real: outside [-1, 1] the result is the NaN 0xFE00.
+ZTHALF_BOUNDED_DOMAIN_ENTRIES(ZTHALF_DECLARE_UNARY)
+
 /// The same functions for a caller that wants to know when a result would not be real: sqrtWithEarlyExit,
-/// logWithEarlyExit, log1pWithEarlyExit, log2WithEarlyExit, log10WithEarlyExit.
+/// logWithEarlyExit, log1pWithEarlyExit, log2WithEarlyExit, log10WithEarlyExit, asinWithEarlyExit, acosWithEarlyExit,
+/// atanhWithEarlyExit.
 ///
 /// The loop stops at the first element outside the real domain and returns false: that element's place in the output
 /// and all later ones are left as they were, and the results before it are finished. It returns true when there is no
 /// such element. Outside are the negative numbers, for log1p those below -1, -infinity included; -0, a NaN of either
-/// sign, and for log1p -1 itself are inside.
+/// sign, and for log1p -1 itself are inside. For asin, acos and atanh all numbers beyond 1 and below -1 are outside,
+/// infinities included; 1, -1 and the NaNs are inside.
 ZTHALF_ROOT_EARLY_EXIT_ENTRIES(ZTHALF_DECLARE_EARLY_EXIT)
 ZTHALF_LOGARITHM_EARLY_EXIT_ENTRIES(ZTHALF_DECLARE_EARLY_EXIT)
+ZTHALF_BOUNDED_DOMAIN_EARLY_EXIT_ENTRIES(ZTHALF_DECLARE_EARLY_EXIT)
 
 /// log2(src, fraction, exponent, n), real or complex source: src[i] = fraction[i] * 2^exponent[i], exact, with
 /// |fraction| in [0.5, 1) and a whole exponent. Zeros, infinities and NaNs are their own fraction, a NaN made quiet,

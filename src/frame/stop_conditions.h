@@ -9,7 +9,7 @@
 
 namespace half::templates::emulated {
 
-// Patterns with the sign bit set are ordered by magnitude, so each condition is one range, up to -infinity.
+// Patterns of one sign are ordered by magnitude, so each condition is one range, up to an infinity.
 
 // Minus zero is no negative number.
 struct isNegativeNumber {
@@ -21,6 +21,13 @@ struct isNegativeNumber {
 struct isBelowMinusOne {
   ZTHALF_INLINE bool operator()(fp16binary_t x) const {
     return static_cast<std::uint16_t>(x.bits - 0xBC01) <= 0xFC00 - 0xBC01;
+  }
+};
+
+// Of either sign, infinities included.
+struct isBeyondOne {
+  ZTHALF_INLINE bool operator()(fp16binary_t x) const {
+    return static_cast<std::uint16_t>(zthalf::pattern::magnitudeOf(x.bits) - 0x3C01) <= 0x7C00 - 0x3C01;
   }
 };
 

@@ -134,7 +134,9 @@ class stoppingForm {
     const std::size_t first = 8;
     std::vector<half_t> buffer = patternsFrom(3, 2 * first + n + static_cast<std::size_t>(std::max(distance, 0)));
     for (unsigned long i = 0; i < n; ++i) {
-      if (stops_(buffer[first + i])) buffer[first + i].bits &= 0x7FFF;
+      if (stops_(buffer[first + i])) {  // in [0.5, 1): inside every domain there is
+        buffer[first + i].bits = static_cast<std::uint16_t>(0x3800 | (buffer[first + i].bits & 0x03FF));
+      }
     }
     if (place < n) buffer[first + place] = half_t{0xC900};  // -10: outside every domain there is
     if (place + 20 < n) buffer[first + place + 20] = half_t{0xC900};

@@ -71,6 +71,28 @@
   X(log2, log2, Half, Half, log2)    \
   X(log10, log10, Half, Half, log10)
 
+#define ZTHALF_TRIGONOMETRIC_ENTRIES(X)             \
+  X(sin, sin, Half, Half, sin<element::Half>)       \
+  X(sinpi, sinpi, Half, Half, sinpi<element::Half>) \
+  X(cos, cos, Half, Half, cos<element::Half>)       \
+  X(cospi, cospi, Half, Half, cospi<element::Half>) \
+  X(tan, tan, Half, Half, tan<element::Half>)
+
+#define ZTHALF_ARC_TANGENT_ENTRIES(X) X(atan, atan, Half, Half, atan<element::Half>)
+
+#define ZTHALF_HYPERBOLIC_ENTRIES(X)                \
+  X(sinh, sinh, Half, Half, sinh<element::Half>)    \
+  X(cosh, cosh, Half, Half, cosh<element::Half>)    \
+  X(tanh, tanh, Half, Half, tanh<element::Half>)    \
+  X(asinh, asinh, Half, Half, asinh<element::Half>) \
+  X(acosh, acosh, Half, Half, acosh<element::Half>)
+
+// Real on [-1, 1] alone: plain functions again.
+#define ZTHALF_BOUNDED_DOMAIN_ENTRIES(X) \
+  X(asin, asin, Half, Half, asin)        \
+  X(acos, acos, Half, Half, acos)        \
+  X(atanh, atanh, Half, Half, atanh)
+
 #define ZTHALF_UNARY_ENTRIES(X)    \
   ZTHALF_CONVERSION_ENTRIES(X)     \
   ZTHALF_BITWISE_ENTRIES(X)        \
@@ -79,7 +101,11 @@
   ZTHALF_ROUNDING_ENTRIES(X)       \
   ZTHALF_ROOT_ENTRIES(X)           \
   ZTHALF_EXPONENTIAL_ENTRIES(X)    \
-  ZTHALF_LOGARITHM_ENTRIES(X)
+  ZTHALF_LOGARITHM_ENTRIES(X)      \
+  ZTHALF_TRIGONOMETRIC_ENTRIES(X)  \
+  ZTHALF_ARC_TANGENT_ENTRIES(X)    \
+  ZTHALF_HYPERBOLIC_ENTRIES(X)     \
+  ZTHALF_BOUNDED_DOMAIN_ENTRIES(X)
 
 // Early-exit rows: X(entry, facade name, input tag, output tag, function in namespace half)
 
@@ -91,9 +117,15 @@
   X(log2EarlyExit, log2WithEarlyExit, Half, Half, log2EarlyExit)    \
   X(log10EarlyExit, log10WithEarlyExit, Half, Half, log10EarlyExit)
 
-#define ZTHALF_EARLY_EXIT_ENTRIES(X) \
-  ZTHALF_ROOT_EARLY_EXIT_ENTRIES(X)  \
-  ZTHALF_LOGARITHM_EARLY_EXIT_ENTRIES(X)
+#define ZTHALF_BOUNDED_DOMAIN_EARLY_EXIT_ENTRIES(X)              \
+  X(asinEarlyExit, asinWithEarlyExit, Half, Half, asinEarlyExit) \
+  X(acosEarlyExit, acosWithEarlyExit, Half, Half, acosEarlyExit) \
+  X(atanhEarlyExit, atanhWithEarlyExit, Half, Half, atanhEarlyExit)
+
+#define ZTHALF_EARLY_EXIT_ENTRIES(X)     \
+  ZTHALF_ROOT_EARLY_EXIT_ENTRIES(X)      \
+  ZTHALF_LOGARITHM_EARLY_EXIT_ENTRIES(X) \
+  ZTHALF_BOUNDED_DOMAIN_EARLY_EXIT_ENTRIES(X)
 
 // Rows with two outputs: X(entry, facade name, input tag, tag of both outputs, function in namespace half)
 #define ZTHALF_TWO_OUT_ENTRIES(X)             \
