@@ -4,6 +4,11 @@
 
 #include <cmath>
 #include <limits>
+#include <vector>
+
+#if defined(__SSE2__)
+#include <xmmintrin.h>
+#endif
 
 #include "tests/support/exact.h"
 #include "tests/support/expect_bits.h"
@@ -176,6 +181,47 @@ TEST(Widen, RoundTripIsTheIdentityOnEveryNumber) {
     compare.check(narrow(widen<double>(h)), expected, h);
   });
 }
+
+#if defined(__SSE2__)
+
+// A program may have told its processor to treat subnormal floats as zeros. The conversions do not notice.
+class flushedSubnormals {
+ public:
+  flushedSubnormals() { _mm_setcsr(found_ | 0x8040); }  // flush to zero, and denormals are zeros
+  ~flushedSubnormals() { _mm_setcsr(found_); }
+  flushedSubnormals(flushedSubnormals const&) = delete;
+  flushedSubnormals& operator=(flushedSubnormals const&) = delete;
+
+ private:
+  unsigned found_ = _mm_getcsr();
+};
+
+TEST(FloatConversion, DoesNotDependOnTheFlushingOfSubnormals) {
+  std::vector<float> singles;
+  std::vector<double> doubles;
+  {
+    const flushedSubnormals mode;
+    testing::forEveryPattern([&](std::uint16_t h) {
+      singles.push_back(convertHalfToSingle(h));
+      doubles.push_back(convertHalfToDouble(h));
+    });
+  }
+  std::vector<std::uint16_t> back;
+  {
+    const flushedSubnormals mode;
+    for (const float x : singles) back.push_back(convertSingleToHalf(x));
+    for (std::uint32_t word = 0; word < 0x00800000; word += 4099) back.push_back(convertSingleToHalf(floatOf(word)));
+  }
+  bitComparison compare("conversions with subnormals flushed");
+  testing::forEveryPattern([&](std::uint16_t h) {
+    compare.check(singles[h], reference::widenedToSingle(h), h);
+    compare.check(doubles[h], reference::widenedToDouble(h), h);
+    compare.check(back[h], reference::narrowed(singles[h]), h);
+  });
+  for (std::size_t i = 0x10000; i < back.size(); ++i) compare.check(back[i], std::uint16_t{0});
+}
+
+#endif
 
 }  // namespace
 }  // namespace zthalf
