@@ -106,8 +106,8 @@ section speedStep(table const& t) {
 
   section s;
   s.key = "speed";
-  s.title = "Speed: " + shortened(t.name, 32) + " repeated to " + countText(static_cast<long long>(values.rows)) +
-            " x " + std::to_string(values.columns);
+  s.title = "Speed: " + shortened(t.name, 32) + (values.rows < t.values.rows ? " cut to " : " repeated to ") +
+            countText(static_cast<long long>(values.rows)) + " x " + std::to_string(values.columns);
   s.rowsKey = "operations";
   s.headings = {{"operation", "operation", "", 0},
                 {"bytes_per_element", "moves", "B/element", 3},
