@@ -15,7 +15,7 @@ std::vector<peerPasses> const& peers() {
   static const std::vector<peerPasses> found = [] {
     std::vector<peerPasses> made = {float16_plain(), eigen_plain()};
 #if defined(ZTHALF_PEERS_F16C)
-    if (__builtin_cpu_supports("avx2") && __builtin_cpu_supports("f16c")) {
+    if (__builtin_cpu_supports("avx2")) {  // no processor has it without the half conversions
       made.insert(made.end(), {float16_avx2(), eigen_avx2(), hardware_avx2()});
       if (__builtin_cpu_supports("avx512bw") && __builtin_cpu_supports("avx512dq") &&
           __builtin_cpu_supports("avx512vl")) {

@@ -31,4 +31,16 @@ ZTHALF_INLINE constexpr Word select(Word mask, Word first, Word second) {
   return static_cast<Word>((first & mask) | (second & ~mask));
 }
 
+// Clamps. Each is a function of its own, so that the compiler has made a minimum or maximum of it before it is merged
+// into a pass. Written in place it stays a branch at first, which GCC threads through the steps that follow and ends up
+// computing them twice.
+template <class Integer>
+ZTHALF_INLINE constexpr Integer smallerOf(Integer a, Integer b) {
+  return a < b ? a : b;
+}
+template <class Integer>
+ZTHALF_INLINE constexpr Integer largerOf(Integer a, Integer b) {
+  return a > b ? a : b;
+}
+
 }  // namespace zthalf

@@ -16,28 +16,30 @@
 
 namespace zthalf {
 
-// The half result of an operation on the half operands first and second, in the order of the defining unit, whose
-// plain result was rounded. Integer work on 16-bit lanes, so that it costs little in a wide pass.
+// The sign bit of the NaN that two half operands give, first and second in the order of the defining unit: 0 where
+// neither is a NaN. Integer work on 16-bit lanes, so that it costs little in a wide pass. Of each word only bit 15 is
+// meant; it is the truth value, and in the operands the sign.
+ZTHALF_INLINE std::uint16_t signOfNaN(std::uint16_t first, std::uint16_t second) {
+  // Adding 0x03FF to the magnitude carries into bit 15 exactly for a NaN.
+  constexpr std::uint16_t step = 0x8000 - (pattern::infinity + 1);
+  const auto firstNaN = static_cast<std::uint16_t>((first + step) ^ first);
+  const auto secondNaN = static_cast<std::uint16_t>((second + step) ^ second);
+  const auto onlySecondSignals = static_cast<std::uint16_t>((first & ~second) << 6);  // the quiet bits; for two NaNs
+  const auto firstWins = static_cast<std::uint16_t>(firstNaN & ~(secondNaN & onlySecondSignals));
+  const auto otherwise = static_cast<std::uint16_t>(second & secondNaN);
+  return static_cast<std::uint16_t>(((first & firstWins) | (otherwise & ~firstWins)) & pattern::signBit);
+}
+
+// The half result of an operation on the half operands first and second, in the order of the defining unit, whose plain
+// result in single, or rounded to half, is given. A NaN operand makes the plain result a NaN.
+ZTHALF_INLINE std::uint16_t settled(float plain, std::uint16_t first, std::uint16_t second) {
+  return static_cast<std::uint16_t>(narrowWithoutNaNSign(plain) | signOfNaN(first, second));
+}
+
 ZTHALF_INLINE std::uint16_t settled(std::uint16_t rounded, std::uint16_t first, std::uint16_t second) {
-  using pattern::infinity;
-  using pattern::magnitudeBits;
-  using pattern::quietBit;
-  // With the quiet bit flipped, exactly the signalling NaNs have a magnitude above 0x7E00.
-  constexpr std::int16_t lastQuiet = infinity ^ quietBit;
-  const auto firstMagnitude = static_cast<std::int16_t>(first & magnitudeBits);
-  const auto secondMagnitude = static_cast<std::int16_t>(second & magnitudeBits);
-  const auto firstNaN = maskOf<std::uint16_t>(firstMagnitude > std::int16_t{infinity});
-  const auto secondNaN = maskOf<std::uint16_t>(secondMagnitude > std::int16_t{infinity});
-  const auto firstSignals = maskOf<std::uint16_t>(static_cast<std::int16_t>(firstMagnitude ^ quietBit) > lastQuiet);
-  const auto secondSignals = maskOf<std::uint16_t>(static_cast<std::int16_t>(secondMagnitude ^ quietBit) > lastQuiet);
-  const auto secondWins = static_cast<std::uint16_t>(
-      secondNaN & (static_cast<std::uint16_t>(~firstNaN) | static_cast<std::uint16_t>(secondSignals & ~firstSignals)));
-  const auto operandSign = static_cast<std::uint16_t>(
-      select<std::uint16_t>(secondWins, second, static_cast<std::uint16_t>(first & firstNaN)) & pattern::signBit);
-  const auto resultNaN =
-      maskOf<std::uint16_t>(static_cast<std::int16_t>(rounded & magnitudeBits) > std::int16_t{infinity});
-  const auto unsignedNaN = static_cast<std::uint16_t>(rounded & ~(resultNaN & pattern::signBit));
-  return static_cast<std::uint16_t>(unsignedNaN | operandSign);
+  const auto magnitude = static_cast<std::int16_t>(rounded & pattern::magnitudeBits);
+  const auto isNaN = maskOf<std::uint16_t>(magnitude > std::int16_t{pattern::infinity});
+  return static_cast<std::uint16_t>((rounded & ~(isNaN & pattern::signBit)) | signOfNaN(first, second));
 }
 
 // A NaN made quiet, its sign and the rest of its payload kept; what is not a NaN must not come here.

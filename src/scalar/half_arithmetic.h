@@ -16,19 +16,19 @@ namespace zthalf {
 // for - and /.
 
 ZTHALF_INLINE std::uint16_t sumOf(std::uint16_t a, std::uint16_t b) {
-  return settled(narrow(widen<float>(b) + widen<float>(a)), b, a);
+  return settled(widen<float>(b) + widen<float>(a), b, a);
 }
 
 ZTHALF_INLINE std::uint16_t differenceOf(std::uint16_t a, std::uint16_t b) {
-  return settled(narrow(widen<float>(a) - widen<float>(b)), a, b);
+  return settled(widen<float>(a) - widen<float>(b), a, b);
 }
 
 ZTHALF_INLINE std::uint16_t productOf(std::uint16_t a, std::uint16_t b) {
-  return settled(narrow(widen<float>(b) * widen<float>(a)), b, a);
+  return settled(widen<float>(b) * widen<float>(a), b, a);
 }
 
 ZTHALF_INLINE std::uint16_t quotientOf(std::uint16_t a, std::uint16_t b) {
-  return settled(narrow(widen<float>(a) / widen<float>(b)), a, b);
+  return settled(widen<float>(a) / widen<float>(b), a, b);
 }
 
 // The order of halves, without widening. Every test with a NaN is false but isUnequal.
