@@ -42,6 +42,14 @@ ZTHALF_INLINE std::uint16_t settled(std::uint16_t rounded, std::uint16_t first, 
   return static_cast<std::uint16_t>((rounded & ~(isNaN & pattern::signBit)) | signOfNaN(first, second));
 }
 
+// The same for an operation on one half operand that has no negative results: a sign can only be that of a NaN which
+// came in.
+ZTHALF_INLINE std::uint16_t settledUnsigned(std::uint16_t rounded, std::uint16_t operand) {
+  const auto operandNaN = maskOf<std::uint16_t>(static_cast<std::int16_t>(pattern::magnitudeOf(operand)) >
+                                                static_cast<std::int16_t>(pattern::infinity));
+  return pattern::magnitudeOf(rounded) | (pattern::signOf(operand) & operandNaN);
+}
+
 // A NaN made quiet, its sign and the rest of its payload kept; what is not a NaN must not come here.
 template <class Wide>
 ZTHALF_INLINE Wide quieted(Wide nan) {

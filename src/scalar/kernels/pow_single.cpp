@@ -45,10 +45,10 @@ split logarithmNearOne(float x) {
   constexpr float inverseLn2Lower = floatOf(0x39A3B296u);  // 0.00031222839606925845
   const float t = x + -1.0f;
   const float w = (t * t) * (0.5f - t * (t * -0.25f + third));
-  const float u = t * inverseLn2Upper;
-  const float v = t * inverseLn2Lower + w * minusInverseLn2;
-  const float upper = upperHalf(u + v);
-  return {upper, v - (upper - u)};
+  const float leading = t * inverseLn2Upper;
+  const float trailing = t * inverseLn2Lower + w * minusInverseLn2;
+  const float upper = upperHalf(leading + trailing);
+  return {upper, trailing - (upper - leading)};
 }
 
 // x = 2^n a with a in [0.866, 1.732), and a = base (1 + s) / (1 - s) with base 1 below 1.2247 and 1.5 from there, so
@@ -73,23 +73,23 @@ split logarithm(float x) {
   n += exponentFieldOf(x);
   const std::uint32_t fraction = fractionBitsOf(x);
   std::uint32_t word = fraction | 0x3F800000u;
-  const bool aboveOne = fraction >= 0x001CC472u && fraction < 0x005DB3D7u;  // 1.2247 and 1.7320
+  const bool takesOneAndAHalf = fraction >= 0x001CC472u && fraction < 0x005DB3D7u;  // 1.2247 and 1.7320
   if (fraction >= 0x005DB3D7u) {
     word = fraction | 0x3F000000u;
     n += 1;
   }
   const float a = floatOf(word);
-  const float base = aboveOne ? 1.5f : 1.0f;
-  const split logarithmOfBase = aboveOne ? log2Of1Point5 : split{0.0f, 0.0f};
+  const float base = takesOneAndAHalf ? 1.5f : 1.0f;
+  const split logarithmOfBase = takesOneAndAHalf ? log2Of1Point5 : split{0.0f, 0.0f};
 
   const float difference = a - base;
   const float reciprocal = 1.0f / (base + a);
   const float s = difference * reciprocal;
   const float sUpper = upperHalf(s);
   // A part of a + base with 12 significant bits, so that its product with sUpper is exact. It is about three quarters
-  // of the sum and not its leading bits, so the product with the rest is rounded early: that costs a general base up to
-  // 94 ulp. Results depend on it; do not mend it.
-  const float sumUpper = floatOf(((aboveOne ? 0x00200000u : 0u) + (word >> 1) + 0x20040000u) & 0x7FFFF000u);
+  // of the sum and not its leading bits, so the product with the rest is rounded early: with a general base that costs
+  // the result up to about 95 ulp. Results depend on it; do not mend it.
+  const float sumUpper = floatOf(((takesOneAndAHalf ? 0x00200000u : 0u) + (word >> 1) + 0x20040000u) & 0x7FFFF000u);
   const float sumLower = a - (sumUpper - base);
   const float sLower = reciprocal * ((difference - sumUpper * sUpper) - sumLower * sUpper);
 
@@ -99,10 +99,10 @@ split logarithm(float x) {
   const float bracketUpper = upperHalf((squareUpper + 3.0f) + r);
   const float bracketLower = r - ((bracketUpper + -3.0f) - squareUpper);
 
-  const float u = sUpper * bracketUpper;
-  const float v = sLower * bracketUpper + s * bracketLower;
-  const float productUpper = upperHalf(u + v);
-  const float productLower = v - (productUpper - u);
+  const float leading = sUpper * bracketUpper;
+  const float trailing = sLower * bracketUpper + s * bracketLower;
+  const float productUpper = upperHalf(leading + trailing);
+  const float productLower = trailing - (productUpper - leading);
 
   const float z = productUpper * factorUpper;
   const float zLower = logarithmOfBase.lower + (productUpper * factorLower + productLower * factor);
@@ -112,8 +112,8 @@ split logarithm(float x) {
 }
 
 // 2^(upper + lower), for a sum in [-150, 128]. The nearest integer m of the sum goes into the exponent. For the rest,
-// with z = rest * ln 2 in two parts, exp(z) = 1 + z + ... comes from the even series t of z as in
-// exp(z) = 1 + (z - (z t / (t - 2) - correction)).
+// with z = rest * ln 2 carried in two parts and c = z - z^2 (1/6 - z^2/360 + ...), which makes z c / (c - 2) the part
+// of exp(z) beyond its linear term, negated:  exp(z) = 1 + z - (z c / (c - 2) - zLower (1 + z)).
 float exponential(split p, float sum) {
   constexpr float ln2 = floatOf(0x3F317218u);           // 0.6931471824645996
   constexpr float ln2Remainder = floatOf(0x35BFBE8Cu);  // 1.4286065379565116e-06
@@ -134,13 +134,13 @@ float exponential(split p, float sum) {
     p.upper = p.upper - floatOf(rounded & whole);
   }
   const float t = upperHalf(p.lower + p.upper);
-  const float u = t * ln2Upper;
-  const float v = (p.lower - (t - p.upper)) * ln2 + t * ln2Remainder;
-  const float z = u + v;
-  const float w = v - (z - u);
+  const float leading = t * ln2Upper;
+  const float trailing = (p.lower - (t - p.upper)) * ln2 + t * ln2Remainder;
+  const float z = leading + trailing;
+  const float zLower = trailing - (z - leading);
   const float square = z * z;
-  const float series = z - square * (square * (square * p3 + p2) + p1);
-  const float r = (z * series) / (series + -2.0f) - (w + z * w);
+  const float c = z - square * (square * (square * p3 + p2) + p1);
+  const float r = (z * c) / (c + -2.0f) - (zLower + z * zLower);
   const float result = (z - r) + 1.0f;
   const float scaled = exponentRaised(result, m);
   return signedBitsOf(scaled) >= static_cast<std::int32_t>(hiddenBit) ? scaled : scalbnSingle(result, m);
@@ -151,15 +151,15 @@ float exponential(split p, float sum) {
 // points up, and the sum -150 still gives a zero only if it does not.
 float magnitudeOfPower(float x, float y) {
   constexpr float hugePower = 0x1p27f;  // from here on only an x next to 1 has a power that is not extreme
-  constexpr float nextBelowOne = floatOf(0x3F7FFFF0u);  // 0.99999905
-  constexpr float nextAboveOne = floatOf(0x3F800008u);  // 1.00000095
-  constexpr std::int32_t top = 0x43000000;              // 128
-  constexpr std::int32_t bottom = 0x43160000;           // 150
+  constexpr float closeBelowOne = floatOf(0x3F7FFFF0u);  // 0.99999905
+  constexpr float closeAboveOne = floatOf(0x3F800008u);  // 1.00000095
+  constexpr std::int32_t top = 0x43000000;               // 128
+  constexpr std::int32_t bottom = 0x43160000;            // 150
   constexpr float margin = floatOf(0x3338AA3Cu);  // 4.299566569443414e-08, the distance of 128 to the rounding limit
 
   const bool isHuge = magnitudeOf(y) > hugePower;
-  if (isHuge && x < nextBelowOne) return y < 0.0f ? infinity : 0.0f;
-  if (isHuge && x > nextAboveOne) return y > 0.0f ? infinity : 0.0f;
+  if (isHuge && x < closeBelowOne) return y < 0.0f ? infinity : 0.0f;
+  if (isHuge && x > closeAboveOne) return y > 0.0f ? infinity : 0.0f;
   const split log2X = isHuge ? logarithmNearOne(x) : logarithm(x);
 
   const float yUpper = upperHalf(y);
