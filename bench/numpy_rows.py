@@ -14,7 +14,9 @@ INTEGERS = {'uint8': np.uint8, 'int8': np.int8, 'uint16': np.uint16, 'int16': np
 FLOATS = {'single': np.float32, 'double': np.float64}
 UNARY = {'uminus': np.negative, 'abs': np.abs, 'sign': np.sign, 'isnan': np.isnan, 'isinf': np.isinf,
          'isfinite': np.isfinite, 'floor': np.floor, 'ceil': np.ceil, 'fix': np.trunc, 'round': np.rint,
-         'eps': np.spacing, 'exp': np.exp, 'expm1': np.expm1, 'pow2': np.exp2}
+         'eps': np.spacing, 'exp': np.exp, 'expm1': np.expm1, 'pow2': np.exp2,
+         'sin': np.sin, 'cos': np.cos, 'tan': np.tan, 'atan': np.arctan, 'sinh': np.sinh, 'cosh': np.cosh,
+         'tanh': np.tanh, 'asinh': np.arcsinh}
 # Of positive numbers only, as for the other subjects.
 POSITIVE = {'log': np.log, 'log1p': np.log1p, 'log2': np.log2, 'log10': np.log10, 'sqrt': np.sqrt}
 EXPANDED = {'expand-none-1000x1000': ((1000, 1000), (1000, 1000)),

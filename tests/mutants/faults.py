@@ -50,6 +50,30 @@ FAULTS = [
     Fault('nextafter leaves infinity in the wrong direction', 'src/scalar/spacing.h',
           'up == positive ? x + 1 : x - 1', 'up ? x + 1 : x - 1', '^scalar/spacing'),
 
+    # Trigonometric and hyperbolic kernels
+    Fault('the product with 2/pi has one term less', 'src/scalar/kernels/kernel_rem_pio2.cpp',
+          'constexpr int lastTerm = 9;', 'constexpr int lastTerm = 8;', '^scalar/kernels/rem_pio2_single$'),
+    Fault('a digit of 2/pi is wrong', 'src/scalar/kernels/two_over_pi_digits.h',
+          '0x97, 0xFF, 0xDE', '0x97, 0xFE, 0xDE', '^scalar/kernels/rem_pio2_single_accuracy'),
+    Fault('the sine of infinity is the positive NaN', 'src/scalar/kernels/rem_pio2_single.cpp',
+          'return {0, domainNaN, domainNaN};', 'return {0, -domainNaN, -domainNaN};', '^scalar/(trig|kernels/sin_cos)'),
+    Fault('the cosine goes through arithmetic with a NaN', 'src/scalar/kernels/sine_cosine_series.h',
+          'if (y.upper != y.upper) return y.upper;', '', '^scalar/(trig|kernels/sin_cos)'),
+    Fault('the lower part of an angle is lost in the sine', 'src/scalar/kernels/sine_cosine_series.h',
+          '(z * (b * 0.5f - v * r) - b)', '(z * (b * 0.5f - v * r))', '^scalar/kernels/sin_cos'),
+    Fault('floats next to a twelfth are computed', 'src/scalar/kernels/sinpi_cospi_single.cpp',
+          'const float twelfths = r * 12.0f;', 'const double twelfths = r * 12.0;', '^scalar/kernels/sinpi_cospi'),
+    Fault('a third is a product in tanh', 'src/scalar/kernels/tanh_single.cpp',
+          'z * middle / 3.0f', 'z * middle * (1.0f / 3.0f)', '^scalar/kernels/tanh'),
+    Fault('tanh of a NaN is the negative NaN', 'src/scalar/kernels/tanh_single.cpp',
+          'floatOf(0x7FC00000u)', 'floatOf(0xFFC00000u)', '^scalar/(hyperbolic|kernels/tanh)'),
+    Fault('asin near one loses its second part', 'src/scalar/kernels/asin_acos_single.cpp',
+          'halfPiUpper - ((angle + angle) + halfPiExcess)', 'halfPiUpper - (angle + angle)',
+          '^scalar/kernels/asin_acos'),
+    Fault('a stopping loop goes on at minus infinity', 'src/frame/stop_conditions.h',
+          'zthalf::pattern::magnitudeOf(x.bits) - 0x3C01) <= 0x7C00 - 0x3C01',
+          'x.bits - 0x3C01) <= 0x7C00 - 0x3C01', '^frame/(inverse|hyperbolic)'),
+
     # Loops
     Fault('a loop with early exit writes one element too many', EARLY_EXIT,
           '''    if (stop(src[i])) return false;
