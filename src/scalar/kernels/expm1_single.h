@@ -1,0 +1,10 @@
+// exp(x) - 1 in single precision.
+// Internal: promises nothing to users of the library.
+#pragma once
+
+namespace qsl_scalar {
+
+// A zero of either sign and every NaN come back as they are, +infinity gives itself and -infinity gives -1.
+float expm1Single(float x);
+
+}  // namespace qsl_scalar
