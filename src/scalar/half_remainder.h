@@ -1,11 +1,11 @@
 // mod and rem of two halves: exact, with quotients that half cannot tell from an integer counted as integers.
 // Internal: promises nothing to users of the library.
 //
-// Both start from the remainder r of |x| by |y|, 0 <= r < |y|, for |x| >= |y|. It is a multiple of the smaller operand's
-// last place and below |y|, so it is a half, and nothing is rounded. Then comes the tolerance: when y has a fraction,
-// the quotient of the halves that a program holds may miss an integer only because y was rounded when it was stored
-// (1.0 by 0.1). So if the distance from |x|/|y| to the nearest integer is no more than half a unit in the last place
-// that a half quotient would have, that is 2^(E-11) for a quotient in [2^E, 2^(E+1)), the remainder is zero. An
+// Both start from the remainder r of |x| by |y|, 0 <= r < |y|, for |x| >= |y|. It is a multiple of the smaller
+// operand's last place and below |y|, so it is a half, and nothing is rounded. Then comes the tolerance: when y has a
+// fraction, the quotient of the halves that a program holds may miss an integer only because y was rounded when it was
+// stored (1.0 by 0.1). So if the distance from |x|/|y| to the nearest integer is no more than half a unit in the last
+// place that a half quotient would have, that is 2^(E-11) for a quotient in [2^E, 2^(E+1)), the remainder is zero. An
 // integral y has no such doubt, and its remainder always stands.
 //
 // All lanes take the same steps, so that a plain loop vectorises; special operands are put in at the end.
@@ -77,9 +77,9 @@ ZTHALF_INLINE std::uint16_t remOfHalves(std::uint16_t x, std::uint16_t y) {
 //   signs equal: the remainder, which is |x| for |x| < |y|, also for an infinite y
 //   signs different: |y| less the remainder, with the sign of y; so for an infinite y, y
 //
-// The last difference is rounded only where |x| < |y|. Taking it in float first rounds twice and does no harm: the float
-// is inexact only where x ends more than 24 places below the leading place of the difference, and then all of x is too
-// small to bring |y| - |x| near a tie between two halves.
+// The last difference is rounded only where |x| < |y|. Taking it in float first rounds twice and does no harm: the
+// float is inexact only where x ends more than 24 places below the leading place of the difference, and then all of x
+// is too small to bring |y| - |x| near a tie between two halves.
 ZTHALF_INLINE std::uint16_t modOfHalves(std::uint16_t x, std::uint16_t y) {
   const std::uint16_t sign = pattern::signOf(y);
   const std::uint16_t magnitudeX = pattern::magnitudeOf(x);

@@ -17,12 +17,12 @@ namespace qsl_scalar {
 double atan2Double(double y, double x) {
   using namespace doubles;
   using zthalf::doubleOf;
-  constexpr double pi = doubleOf(0x400921FB54442D18u);                 // 3.141592653589793
-  constexpr double halfPi = doubleOf(0x3FF921FB54442D18u);             // 1.5707963267948966
-  constexpr double quarterPi = doubleOf(0x3FE921FB54442D18u);          // 0.7853981633974483
-  constexpr double threeQuartersPi = doubleOf(0x4002D97C7F3321D2u);    // 2.356194490192345
-  constexpr double minusPiLower = doubleOf(0xBCA1A62633145C07u);       // -1.2246467991473532e-16, pi's double less pi
-  constexpr std::int32_t from2To61 = 0x3D00000;                        // differences of the high words
+  constexpr double pi = doubleOf(0x400921FB54442D18u);               // 3.141592653589793
+  constexpr double halfPi = doubleOf(0x3FF921FB54442D18u);           // 1.5707963267948966
+  constexpr double quarterPi = doubleOf(0x3FE921FB54442D18u);        // 0.7853981633974483
+  constexpr double threeQuartersPi = doubleOf(0x4002D97C7F3321D2u);  // 2.356194490192345
+  constexpr double minusPiLower = doubleOf(0xBCA1A62633145C07u);     // -1.2246467991473532e-16, pi's double less pi
+  constexpr std::int32_t from2To61 = 0x3D00000;                      // differences of the high words
   constexpr std::int32_t below2ToMinus60 = -0x3C00000;
 
   if (x != x || y != y) return domainNaN;

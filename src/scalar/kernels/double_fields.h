@@ -14,14 +14,12 @@ namespace qsl_scalar::doubles {
 inline constexpr std::uint64_t magnitudeBits = 0x7FFFFFFFFFFFFFFFu;
 inline constexpr double infinity = zthalf::doubleOf(0x7FF0000000000000u);
 inline constexpr double largestFinite = zthalf::doubleOf(0x7FEFFFFFFFFFFFFFu);  // 1.7976931348623157e+308
-inline constexpr std::int32_t exponentStep = 0x00100000;                       // one in the exponent field
+inline constexpr std::int32_t exponentStep = 0x00100000;                        // one in the exponent field
 
 // The NaN of a real function outside its domain; negative, and it does not go through the NaN policy.
 inline constexpr double domainNaN = zthalf::doubleOf(0xFFF8000000000000u);
 
-ZTHALF_INLINE constexpr std::int32_t highWordOf(double v) {
-  return static_cast<std::int32_t>(zthalf::bitsOf(v) >> 32);
-}
+ZTHALF_INLINE constexpr std::int32_t highWordOf(double v) { return static_cast<std::int32_t>(zthalf::bitsOf(v) >> 32); }
 ZTHALF_INLINE constexpr std::int32_t highWordOfMagnitude(double v) { return highWordOf(v) & 0x7FFFFFFF; }
 ZTHALF_INLINE constexpr std::uint32_t lowWordOf(double v) { return static_cast<std::uint32_t>(zthalf::bitsOf(v)); }
 

@@ -23,9 +23,9 @@ constexpr std::uint32_t exponentStep = 0x00800000u;
 //   otherwise:  a^2 + b^2 = 2a b + (a - b)^2
 //                         = T B + ((a - b)^2 + (T (b - B) + b (2a - T)))         T: the upper half of 2a, B: that of b
 //
-// Scaling is by 2^90: downwards from a = 2^60 on, upwards for b below 2^-60. A subnormal b is scaled by 2^126, and there
-// A, T and B are left at their unscaled values: their products vanish and the bracket carries all, which is part of the
-// defined result. From a/b = 2^30 on b no longer reaches the result.
+// Scaling is by 2^90: downwards from a = 2^60 on, upwards for b below 2^-60. A subnormal b is scaled by 2^126, and
+// there A, T and B are left at their unscaled values: their products vanish and the bracket carries all, which is part
+// of the defined result. From a/b = 2^30 on b no longer reaches the result.
 float hypotSingle(float u, float v) {
   using zthalf::bitsOf;
   using zthalf::floatOf;
