@@ -44,6 +44,64 @@ ZTHALF_API void fix(fp16binary_t* src, fp16binary_t* dst, unsigned long n);
 ZTHALF_API void floor(fp16binary_t* src, fp16binary_t* dst, unsigned long n);
 ZTHALF_API void round(fp16binary_t* src, fp16binary_t* dst, unsigned long n);
 
+template <class T>
+ZTHALF_API void exp(T* src, T* dst, unsigned long n);
+template <class T>
+ZTHALF_API void expm1(T* src, T* dst, unsigned long n);
+template <class T>
+ZTHALF_API void pow2(T* src, T* dst, unsigned long n);
+template <class T>
+ZTHALF_API void pow10(T* src, T* dst, unsigned long n);
+
+ZTHALF_API void sqrt(fp16binary_t* src, fp16binary_t* dst, unsigned long n);
+ZTHALF_API void rsqrt(fp16binary_t* src, fp16binary_t* dst, unsigned long n);
+ZTHALF_API void log(fp16binary_t* src, fp16binary_t* dst, unsigned long n);
+ZTHALF_API void log1p(fp16binary_t* src, fp16binary_t* dst, unsigned long n);
+ZTHALF_API void log2(fp16binary_t* src, fp16binary_t* dst, unsigned long n);
+ZTHALF_API void log10(fp16binary_t* src, fp16binary_t* dst, unsigned long n);
+
+template <class T>
+ZTHALF_API void sin(T* src, T* dst, unsigned long n);
+template <class T>
+ZTHALF_API void sinpi(T* src, T* dst, unsigned long n);
+template <class T>
+ZTHALF_API void cos(T* src, T* dst, unsigned long n);
+template <class T>
+ZTHALF_API void cospi(T* src, T* dst, unsigned long n);
+template <class T>
+ZTHALF_API void tan(T* src, T* dst, unsigned long n);
+template <class T>
+ZTHALF_API void atan(T* src, T* dst, unsigned long n);
+template <class T>
+ZTHALF_API void sinh(T* src, T* dst, unsigned long n);
+template <class T>
+ZTHALF_API void cosh(T* src, T* dst, unsigned long n);
+template <class T>
+ZTHALF_API void tanh(T* src, T* dst, unsigned long n);
+template <class T>
+ZTHALF_API void asinh(T* src, T* dst, unsigned long n);
+template <class T>
+ZTHALF_API void acosh(T* src, T* dst, unsigned long n);
+
+ZTHALF_API void asin(fp16binary_t* src, fp16binary_t* dst, unsigned long n);
+ZTHALF_API void acos(fp16binary_t* src, fp16binary_t* dst, unsigned long n);
+ZTHALF_API void atanh(fp16binary_t* src, fp16binary_t* dst, unsigned long n);
+
+/// The stopping forms, half_vector::sqrtWithEarlyExit and so on.
+ZTHALF_API bool sqrtEarlyExit(fp16binary_t* src, fp16binary_t* dst, unsigned long n);
+ZTHALF_API bool logEarlyExit(fp16binary_t* src, fp16binary_t* dst, unsigned long n);
+ZTHALF_API bool log1pEarlyExit(fp16binary_t* src, fp16binary_t* dst, unsigned long n);
+ZTHALF_API bool log2EarlyExit(fp16binary_t* src, fp16binary_t* dst, unsigned long n);
+ZTHALF_API bool log10EarlyExit(fp16binary_t* src, fp16binary_t* dst, unsigned long n);
+ZTHALF_API bool asinEarlyExit(fp16binary_t* src, fp16binary_t* dst, unsigned long n);
+ZTHALF_API bool acosEarlyExit(fp16binary_t* src, fp16binary_t* dst, unsigned long n);
+ZTHALF_API bool atanhEarlyExit(fp16binary_t* src, fp16binary_t* dst, unsigned long n);
+
+/// The two-output forms of half_vector::log2.
+ZTHALF_API void log2TwoOut(fp16binary_t* src, fp16binary_t* fraction, fp16binary_t* exponent, unsigned long n);
+ZTHALF_API void cplxLog2TwoOut(std::complex<fp16binary_t>* src, fp16binary_t* fraction, fp16binary_t* exponent,
+                               unsigned long n);
+
 /// Whether every imaginary part is a zero of either sign; true for an empty array.
 ZTHALF_API bool isImagZero(std::complex<unsigned short>* src, unsigned long n);
 

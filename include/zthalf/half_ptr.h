@@ -14,15 +14,23 @@ namespace half_ptr {
 
 #define ZTHALF_DECLARE_UNARY(entry, facade, In, Out, ...) \
   extern ZTHALF_API unary_entry<half::element::In, half::element::Out>* entry##Ptr;
+#define ZTHALF_DECLARE_EARLY_EXIT(entry, facade, In, Out, function) \
+  extern ZTHALF_API early_exit_entry<half::element::In, half::element::Out>* entry##Ptr;
+#define ZTHALF_DECLARE_TWO_OUT(entry, facade, In, Out, function) \
+  extern ZTHALF_API two_out_entry<half::element::In, half::element::Out>* entry##Ptr;
 #define ZTHALF_DECLARE_QUERY(entry, facade, In, instance) extern ZTHALF_API query_entry<half::storage::In>* entry##Ptr;
 #define ZTHALF_DECLARE_BINARY(op, Left, Right, Out) \
   extern ZTHALF_API binary_entry<half::element::Left, half::element::Right, half::element::Out>* op##Left##Right##Ptr;
 
 ZTHALF_UNARY_ENTRIES(ZTHALF_DECLARE_UNARY)
+ZTHALF_EARLY_EXIT_ENTRIES(ZTHALF_DECLARE_EARLY_EXIT)
+ZTHALF_TWO_OUT_ENTRIES(ZTHALF_DECLARE_TWO_OUT)
 ZTHALF_QUERY_ENTRIES(ZTHALF_DECLARE_QUERY)
 ZTHALF_BINARY_ENTRIES(ZTHALF_DECLARE_BINARY)
 
 #undef ZTHALF_DECLARE_UNARY
+#undef ZTHALF_DECLARE_EARLY_EXIT
+#undef ZTHALF_DECLARE_TWO_OUT
 #undef ZTHALF_DECLARE_QUERY
 #undef ZTHALF_DECLARE_BINARY
 

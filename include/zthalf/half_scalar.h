@@ -35,6 +35,59 @@ ZTHALF_API half_t eps(half_t x);
 /// sign of y, from 65504 towards infinity to infinity, from infinity to 65504.
 ZTHALF_API half_t nextafter(half_t x, half_t y);
 
+/// Exponentials, logarithms and roots. Each is computed in single precision and rounded to half once, so that but for a
+/// few results next to a tie it is the correctly rounded one. exp alone is coarser: within 0.873 units in the last
+/// place, and about one result in seven is not the nearest half.
+///
+/// NaN results are 0x7E00 with the sign told for each group.
+
+/// exp(x), exp(x) - 1. A NaN keeps its sign; expm1 of a zero is that zero.
+ZTHALF_API half_t exp(half_t x);
+ZTHALF_API half_t expm1(half_t x);
+/// 10 and 2 to the power x. Every NaN gives the negative NaN.
+ZTHALF_API half_t pow10(half_t x);
+ZTHALF_API half_t pow2(half_t x);
+/// The logarithms to base e, 2 and 10, and ln(1 + x). A zero (for log1p: -1) gives -infinity and +infinity gives
+/// itself. A negative number (for log1p: one below -1) gives the negative NaN. A NaN keeps its sign; log1p of a zero is
+/// that zero. log2 of a power of two is exact.
+ZTHALF_API half_t log(half_t x);
+ZTHALF_API half_t log1p(half_t x);
+ZTHALF_API half_t log2(half_t x);
+ZTHALF_API half_t log10(half_t x);
+/// The square root and its reciprocal. -0 counts as +0, so that sqrt gives +0 and rsqrt +infinity. A negative number
+/// gives the positive NaN; a NaN keeps its sign.
+ZTHALF_API half_t sqrt(half_t x);
+ZTHALF_API half_t rsqrt(half_t x);
+
+/// Trigonometric and hyperbolic functions and their inverses, computed and rounded in the same way. Angles are in
+/// radians, and every finite half is reduced to full accuracy, however large.
+
+/// A zero is its own sine and tangent. Infinities and NaNs of either sign give the negative NaN.
+ZTHALF_API half_t sin(half_t x);
+ZTHALF_API half_t cos(half_t x);
+ZTHALF_API half_t tan(half_t x);
+/// sin(pi x) and cos(pi x), exact at every multiple of 1/2: sinpi of an integer is a zero with the sign of x, or of x's
+/// remainder by 2, taken in [-1, 1]; cospi of an odd multiple of 1/2 is +0. Infinities and NaNs of either sign give the
+/// negative NaN.
+ZTHALF_API half_t sinpi(half_t x);
+ZTHALF_API half_t cospi(half_t x);
+/// Outside [-1, 1], and for a NaN of either sign, the negative NaN. acos of 1 is +0.
+ZTHALF_API half_t asin(half_t x);
+ZTHALF_API half_t acos(half_t x);
+/// Half pi, rounded, with the sign of an infinite x. A NaN of either sign gives the negative NaN.
+ZTHALF_API half_t atan(half_t x);
+/// Infinite for an infinite x. A NaN keeps its sign.
+ZTHALF_API half_t sinh(half_t x);
+ZTHALF_API half_t cosh(half_t x);
+/// 1 with the sign of an infinite x. A NaN of either sign gives the positive NaN.
+ZTHALF_API half_t tanh(half_t x);
+/// A zero, an infinity or a NaN gives itself, the NaN made quiet.
+ZTHALF_API half_t asinh(half_t x);
+/// Below 1, and for a NaN with its sign set, the negative NaN; the other NaNs give the positive one. acosh of 1 is +0.
+ZTHALF_API half_t acosh(half_t x);
+/// An infinity with the sign of x at 1 and -1. Beyond, and for a NaN of either sign, the negative NaN.
+ZTHALF_API half_t atanh(half_t x);
+
 /// The remainder of x by y with the sign of x (rem) or of y (mod). The remainder itself is exact.
 ///
 /// When y has a fraction, x is taken for a multiple of y if x/y lies within half a unit in the last place, as a half, of

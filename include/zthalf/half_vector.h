@@ -21,6 +21,10 @@ namespace half_vector {
 
 #define ZTHALF_DECLARE_UNARY(entry, facade, In, Out, ...) \
   ZTHALF_API void facade(element::In* src, element::Out* dst, unsigned long n);
+#define ZTHALF_DECLARE_EARLY_EXIT(entry, facade, In, Out, function) \
+  ZTHALF_API bool facade(element::In* src, element::Out* dst, unsigned long n);
+#define ZTHALF_DECLARE_TWO_OUT(entry, facade, In, Out, function) \
+  ZTHALF_API void facade(element::In* src, element::Out* first, element::Out* second, unsigned long n);
 #define ZTHALF_DECLARE_QUERY(entry, facade, In, instance) ZTHALF_API bool facade(element::In* src, unsigned long n);
 #define ZTHALF_DECLARE_BINARY(op, Left, Right, Out)                                                                  \
   ZTHALF_API void op(element::Left* a, element::Right* b, element::Out* c, unsigned long na, unsigned long ndimsA,   \
@@ -59,6 +63,44 @@ ZTHALF_SPACING_ENTRIES(ZTHALF_DECLARE_UNARY)
 /// source; infinities and NaNs come back unchanged.
 ZTHALF_ROUNDING_ENTRIES(ZTHALF_DECLARE_UNARY)
 
+/// sqrt, rsqrt (real): -0 counts as +0, a negative number gives the NaN 0x7E00.
+ZTHALF_ROOT_ENTRIES(ZTHALF_DECLARE_UNARY)
+
+/// exp, expm1, pow2 and pow10 (2 and 10 to the power of the element), real.
+ZTHALF_EXPONENTIAL_ENTRIES(ZTHALF_DECLARE_UNARY)
+
+/// log, log1p, log2, log10 (real): outside the domain the result is the NaN 0xFE00.
+ZTHALF_LOGARITHM_ENTRIES(ZTHALF_DECLARE_UNARY)
+
+/// sin, cos, tan, and sinpi, cospi, the sine and cosine of pi times the element, real. Infinities and NaNs give the NaN
+/// 0xFE00.
+ZTHALF_TRIGONOMETRIC_ENTRIES(ZTHALF_DECLARE_UNARY)
+ZTHALF_ARC_TANGENT_ENTRIES(ZTHALF_DECLARE_UNARY)
+
+/// sinh, cosh, tanh, asinh, acosh, real. acosh below 1 gives the NaN 0xFE00; tanh of a NaN gives 0x7E00.
+ZTHALF_HYPERBOLIC_ENTRIES(ZTHALF_DECLARE_UNARY)
+
+/// asin, acos, atanh, real: outside [-1, 1] the result is the NaN 0xFE00.
+ZTHALF_BOUNDED_DOMAIN_ENTRIES(ZTHALF_DECLARE_UNARY)
+
+/// The same functions for a caller that wants to know when a result would not be real: sqrtWithEarlyExit,
+/// logWithEarlyExit, log1pWithEarlyExit, log2WithEarlyExit, log10WithEarlyExit, asinWithEarlyExit, acosWithEarlyExit,
+/// atanhWithEarlyExit.
+///
+/// The loop stops at the first element outside the real domain and returns false: that element's place in the output
+/// and all later ones are left as they were, and the results before it are finished. It returns true when there is no
+/// such element. Outside are the negative numbers, for log1p those below -1, -infinity included; -0, a NaN of either
+/// sign, and for log1p -1 itself are inside. For asin, acos and atanh all numbers beyond 1 and below -1 are outside,
+/// infinities included; 1, -1 and the NaNs are inside.
+ZTHALF_ROOT_EARLY_EXIT_ENTRIES(ZTHALF_DECLARE_EARLY_EXIT)
+ZTHALF_LOGARITHM_EARLY_EXIT_ENTRIES(ZTHALF_DECLARE_EARLY_EXIT)
+ZTHALF_BOUNDED_DOMAIN_EARLY_EXIT_ENTRIES(ZTHALF_DECLARE_EARLY_EXIT)
+
+/// log2(src, fraction, exponent, n), real or complex source: src[i] = fraction[i] * 2^exponent[i], exact, with
+/// |fraction| in [0.5, 1) and a whole exponent. Zeros, infinities and NaNs are their own fraction, a NaN made quiet,
+/// with an exponent of +0. Of a complex element only the real part is looked at.
+ZTHALF_TWO_OUT_ENTRIES(ZTHALF_DECLARE_TWO_OUT)
+
 /// isImagZero: whether every imaginary part is a zero of either sign; true for an empty array. More than 2048 elements
 /// are scanned on several threads.
 ZTHALF_QUERY_ENTRIES(ZTHALF_DECLARE_QUERY)
@@ -75,6 +117,8 @@ ZTHALF_QUERY_ENTRIES(ZTHALF_DECLARE_QUERY)
 ZTHALF_BINARY_ENTRIES(ZTHALF_DECLARE_BINARY)
 
 #undef ZTHALF_DECLARE_UNARY
+#undef ZTHALF_DECLARE_EARLY_EXIT
+#undef ZTHALF_DECLARE_TWO_OUT
 #undef ZTHALF_DECLARE_QUERY
 #undef ZTHALF_DECLARE_BINARY
 

@@ -24,6 +24,14 @@ std::complex<unsigned short>* bare(std::complex<half_t>* p) {
   void facade(element::In* src, element::Out* dst, unsigned long n) { \
     half_ptr::entry##Ptr(stored(src), stored(dst), n);                \
   }
+#define ZTHALF_FORWARD_EARLY_EXIT(entry, facade, In, Out, function)   \
+  bool facade(element::In* src, element::Out* dst, unsigned long n) { \
+    return half_ptr::entry##Ptr(stored(src), stored(dst), n);         \
+  }
+#define ZTHALF_FORWARD_TWO_OUT(entry, facade, In, Out, function)                              \
+  void facade(element::In* src, element::Out* first, element::Out* second, unsigned long n) { \
+    half_ptr::entry##Ptr(stored(src), stored(first), stored(second), n);                      \
+  }
 #define ZTHALF_FORWARD_QUERY(entry, facade, In, instance) \
   bool facade(element::In* src, unsigned long n) { return half_ptr::entry##Ptr(bare(src), n); }
 #define ZTHALF_FORWARD_BINARY(op, Left, Right, Out)                                                                   \
@@ -35,10 +43,14 @@ std::complex<unsigned short>* bare(std::complex<half_t>* p) {
   }
 
 ZTHALF_UNARY_ENTRIES(ZTHALF_FORWARD_UNARY)
+ZTHALF_EARLY_EXIT_ENTRIES(ZTHALF_FORWARD_EARLY_EXIT)
+ZTHALF_TWO_OUT_ENTRIES(ZTHALF_FORWARD_TWO_OUT)
 ZTHALF_QUERY_ENTRIES(ZTHALF_FORWARD_QUERY)
 ZTHALF_BINARY_ENTRIES(ZTHALF_FORWARD_BINARY)
 
 #undef ZTHALF_FORWARD_UNARY
+#undef ZTHALF_FORWARD_EARLY_EXIT
+#undef ZTHALF_FORWARD_TWO_OUT
 #undef ZTHALF_FORWARD_QUERY
 #undef ZTHALF_FORWARD_BINARY
 

@@ -8,16 +8,24 @@ namespace element = half::element;
 
 #define ZTHALF_FILL_UNARY(entry, facade, In, Out, ...) \
   unary_entry<element::In, element::Out>* entry##Ptr = &half::__VA_ARGS__;
+#define ZTHALF_FILL_EARLY_EXIT(entry, facade, In, Out, function) \
+  early_exit_entry<element::In, element::Out>* entry##Ptr = &half::function;
+#define ZTHALF_FILL_TWO_OUT(entry, facade, In, Out, function) \
+  two_out_entry<element::In, element::Out>* entry##Ptr = &half::function;
 #define ZTHALF_FILL_QUERY(entry, facade, In, instance) query_entry<half::storage::In>* entry##Ptr = &half::instance;
 #define ZTHALF_FILL_BINARY(op, Left, Right, Out)                                    \
   binary_entry<element::Left, element::Right, element::Out>* op##Left##Right##Ptr = \
       &half::op<element::Left, element::Right, element::Out>;
 
 ZTHALF_UNARY_ENTRIES(ZTHALF_FILL_UNARY)
+ZTHALF_EARLY_EXIT_ENTRIES(ZTHALF_FILL_EARLY_EXIT)
+ZTHALF_TWO_OUT_ENTRIES(ZTHALF_FILL_TWO_OUT)
 ZTHALF_QUERY_ENTRIES(ZTHALF_FILL_QUERY)
 ZTHALF_BINARY_ENTRIES(ZTHALF_FILL_BINARY)
 
 #undef ZTHALF_FILL_UNARY
+#undef ZTHALF_FILL_EARLY_EXIT
+#undef ZTHALF_FILL_TWO_OUT
 #undef ZTHALF_FILL_QUERY
 #undef ZTHALF_FILL_BINARY
 

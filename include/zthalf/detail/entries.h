@@ -54,12 +54,83 @@
   X(floor, floor, Half, Half, floor) \
   X(round, round, Half, Half, round)
 
+#define ZTHALF_ROOT_ENTRIES(X)    \
+  X(sqrt, sqrt, Half, Half, sqrt) \
+  X(rsqrt, rsqrt, Half, Half, rsqrt)
+
+#define ZTHALF_EXPONENTIAL_ENTRIES(X)               \
+  X(exp, exp, Half, Half, exp<element::Half>)       \
+  X(expm1, expm1, Half, Half, expm1<element::Half>) \
+  X(pow2, pow2, Half, Half, pow2<element::Half>)    \
+  X(pow10, pow10, Half, Half, pow10<element::Half>)
+
+// Plain functions, as the roots are.
+#define ZTHALF_LOGARITHM_ENTRIES(X)  \
+  X(log, log, Half, Half, log)       \
+  X(log1p, log1p, Half, Half, log1p) \
+  X(log2, log2, Half, Half, log2)    \
+  X(log10, log10, Half, Half, log10)
+
+#define ZTHALF_TRIGONOMETRIC_ENTRIES(X)             \
+  X(sin, sin, Half, Half, sin<element::Half>)       \
+  X(sinpi, sinpi, Half, Half, sinpi<element::Half>) \
+  X(cos, cos, Half, Half, cos<element::Half>)       \
+  X(cospi, cospi, Half, Half, cospi<element::Half>) \
+  X(tan, tan, Half, Half, tan<element::Half>)
+
+#define ZTHALF_ARC_TANGENT_ENTRIES(X) X(atan, atan, Half, Half, atan<element::Half>)
+
+#define ZTHALF_HYPERBOLIC_ENTRIES(X)                \
+  X(sinh, sinh, Half, Half, sinh<element::Half>)    \
+  X(cosh, cosh, Half, Half, cosh<element::Half>)    \
+  X(tanh, tanh, Half, Half, tanh<element::Half>)    \
+  X(asinh, asinh, Half, Half, asinh<element::Half>) \
+  X(acosh, acosh, Half, Half, acosh<element::Half>)
+
+// Real on [-1, 1] alone: plain functions again.
+#define ZTHALF_BOUNDED_DOMAIN_ENTRIES(X) \
+  X(asin, asin, Half, Half, asin)        \
+  X(acos, acos, Half, Half, acos)        \
+  X(atanh, atanh, Half, Half, atanh)
+
 #define ZTHALF_UNARY_ENTRIES(X)    \
   ZTHALF_CONVERSION_ENTRIES(X)     \
   ZTHALF_BITWISE_ENTRIES(X)        \
   ZTHALF_CLASSIFICATION_ENTRIES(X) \
   ZTHALF_SPACING_ENTRIES(X)        \
-  ZTHALF_ROUNDING_ENTRIES(X)
+  ZTHALF_ROUNDING_ENTRIES(X)       \
+  ZTHALF_ROOT_ENTRIES(X)           \
+  ZTHALF_EXPONENTIAL_ENTRIES(X)    \
+  ZTHALF_LOGARITHM_ENTRIES(X)      \
+  ZTHALF_TRIGONOMETRIC_ENTRIES(X)  \
+  ZTHALF_ARC_TANGENT_ENTRIES(X)    \
+  ZTHALF_HYPERBOLIC_ENTRIES(X)     \
+  ZTHALF_BOUNDED_DOMAIN_ENTRIES(X)
+
+// Early-exit rows: X(entry, facade name, input tag, output tag, function in namespace half)
+
+#define ZTHALF_ROOT_EARLY_EXIT_ENTRIES(X) X(sqrtEarlyExit, sqrtWithEarlyExit, Half, Half, sqrtEarlyExit)
+
+#define ZTHALF_LOGARITHM_EARLY_EXIT_ENTRIES(X)                      \
+  X(logEarlyExit, logWithEarlyExit, Half, Half, logEarlyExit)       \
+  X(log1pEarlyExit, log1pWithEarlyExit, Half, Half, log1pEarlyExit) \
+  X(log2EarlyExit, log2WithEarlyExit, Half, Half, log2EarlyExit)    \
+  X(log10EarlyExit, log10WithEarlyExit, Half, Half, log10EarlyExit)
+
+#define ZTHALF_BOUNDED_DOMAIN_EARLY_EXIT_ENTRIES(X)              \
+  X(asinEarlyExit, asinWithEarlyExit, Half, Half, asinEarlyExit) \
+  X(acosEarlyExit, acosWithEarlyExit, Half, Half, acosEarlyExit) \
+  X(atanhEarlyExit, atanhWithEarlyExit, Half, Half, atanhEarlyExit)
+
+#define ZTHALF_EARLY_EXIT_ENTRIES(X)     \
+  ZTHALF_ROOT_EARLY_EXIT_ENTRIES(X)      \
+  ZTHALF_LOGARITHM_EARLY_EXIT_ENTRIES(X) \
+  ZTHALF_BOUNDED_DOMAIN_EARLY_EXIT_ENTRIES(X)
+
+// Rows with two outputs: X(entry, facade name, input tag, tag of both outputs, function in namespace half)
+#define ZTHALF_TWO_OUT_ENTRIES(X)             \
+  X(log2TwoOut, log2, Half, Half, log2TwoOut) \
+  X(cplxLog2TwoOut, log2, CplxHalf, Half, cplxLog2TwoOut)
 
 // Query rows: X(entry, facade name, input tag, function in namespace half); the function takes bare patterns.
 #define ZTHALF_QUERY_ENTRIES(X) X(isImagZero, isImagZero, CplxHalf, isImagZero)

@@ -6,6 +6,13 @@ namespace half_ptr {
 template <class In, class Out>
 using unary_entry = void(In*, Out*, unsigned long);
 
+// True when the whole array was done.
+template <class In, class Out>
+using early_exit_entry = bool(In*, Out*, unsigned long);
+
+template <class In, class Out>
+using two_out_entry = void(In*, Out*, Out*, unsigned long);
+
 template <class In>
 using query_entry = bool(In*, unsigned long);
 

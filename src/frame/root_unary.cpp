@@ -1,0 +1,25 @@
+// Square roots on arrays.
+#include "frame/early_exit_loop.h"
+#include "frame/simple_loop.h"
+#include "frame/stop_conditions.h"
+#include "scalar/functors/root_functors.h"
+#include "zthalf/half_ops.h"
+
+namespace half {
+
+namespace functor = scalar::emulated;
+
+void sqrt(fp16binary_t* src, fp16binary_t* dst, unsigned long n) {
+  half_utils::unaryOpSimpleLoop(src, dst, n, functor::sqrtFtor{});
+}
+
+void rsqrt(fp16binary_t* src, fp16binary_t* dst, unsigned long n) {
+  half_utils::unaryOpSimpleLoop(src, dst, n, functor::rsqrtFtor{});
+}
+
+bool sqrtEarlyExit(fp16binary_t* src, fp16binary_t* dst, unsigned long n) {
+  return templates::emulated::halfUnarySimpleLoopWithEarlyExit(src, dst, n, functor::sqrtFtor{},
+                                                               templates::emulated::isNegativeNumber{});
+}
+
+}  // namespace half

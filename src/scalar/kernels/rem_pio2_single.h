@@ -1,0 +1,20 @@
+// Reduction of an angle by multiples of pi/2 in single precision.
+// Internal: promises nothing to users of the library.
+#pragma once
+
+#include <cstdint>
+
+namespace qsl_scalar {
+
+// The angle n pi/2 + upper + lower. |upper| is up to about pi/4, and lower is what the rounding of upper dropped.
+struct reducedAngle {
+  std::int32_t n;
+  float upper;
+  float lower;
+};
+
+// x by the nearest multiple of pi/2, for |x| above pi/4. n is that multiple's number, exact up to 201.06 and modulo 8
+// above. An infinity or a NaN gives the negative NaN 0xFFC00000 in both parts.
+reducedAngle remPio2Single(float x);
+
+}  // namespace qsl_scalar

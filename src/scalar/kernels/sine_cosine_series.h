@@ -1,0 +1,75 @@
+// Sine and cosine of a reduced angle in single precision.
+// Internal: promises nothing to users of the library.
+#pragma once
+
+#include "scalar/kernels/float_fields.h"
+#include "scalar/kernels/rem_pio2_single.h"
+
+namespace qsl_scalar {
+
+// Below it sin x rounds to x and cos x to 1.
+inline constexpr float tinyAngle = floatOf(0x32000000u);  // 2^-27
+
+// sin a = a + a^3 (sine1 + sine2 z + sine3 z^2 + sine4 z^3), z = a^2, on |a| up to pi/4: near -1/3!, 1/5!, -1/7!, 1/9!,
+// and fitted.
+inline constexpr float sine1 = floatOf(0xBE2AAAABu);  // -0.16666667163372040
+inline constexpr float sine2 = floatOf(0x3C088887u);  // 0.008333330973982811
+inline constexpr float sine3 = floatOf(0xB95009C3u);  // -0.00019839218410197645
+inline constexpr float sine4 = floatOf(0x3636D9C0u);  // 2.7247372599958908e-06
+
+// cos a = 1 - z/2 + z^2 (cosine1 + cosine2 z + cosine3 z^2 + cosine4 z^3): near 1/4!, -1/6!, 1/8!, -1/10!.
+inline constexpr float cosine1 = floatOf(0x3D2AAAABu);  // 0.041666667908430099
+inline constexpr float cosine2 = floatOf(0xBAB60B60u);  // -0.0013888888061046600
+inline constexpr float cosine3 = floatOf(0x37D00AD5u);  // 2.4801497173029929e-05
+inline constexpr float cosine4 = floatOf(0xB4928E05u);  // -2.7297387805447215e-07
+
+// sin(a + b) for a pair whose b is small against a: sin a + b cos a, with cos a = 1 - z/2. Every term that contains b
+// is added to the small correction and not to a.
+inline float sinPoly(float a, float b) {
+  if (magnitudeOf(a) < tinyAngle) return a;
+  const float z = a * a;
+  const float v = a * z;
+  const float r = z * (z * sine4 + sine3) + sine2;
+  return a - (v * -sine1 + (z * (b * 0.5f - v * r) - b));
+}
+
+// sin a for a single float.
+inline float sinPoly(float a) {
+  if (magnitudeOf(a) < tinyAngle) return a;
+  const float z = a * a;
+  return a + (a * z) * (z * (z * (z * sine4 + sine3) + sine2) + sine1);
+}
+
+// cos(a + b) = cos a - a b. From 0.3 on 1 - z/2 would lose bits by rounding, so part of z/2 is taken off the one first,
+// in an exact subtraction: h is about |a|/4, with few bits, and up to 0.78125 below z/2 or not far above it.
+inline float cosPoly(float a, float b) {
+  const float magnitude = magnitudeOf(a);
+  if (magnitude < tinyAngle) return 1.0f;
+  const float z = a * a;
+  const float c = z * (z * (z * cosine4 + cosine3) + cosine2) + cosine1;
+  const float q = z * (z * c) - a * b;
+  if (magnitude < floatOf(0x3E99999Au)) return (q + z * -0.5f) + 1.0f;  // 0.3
+  if (magnitude > 0.78125f) return (q - (z * 0.5f + -0.28125f)) + 0.71875f;
+  const float h = upperHalf(magnitude) * 0.25f;
+  return (1.0f - h) - ((z * 0.5f - h) - q);
+}
+
+// sin and cos of n pi/2 + upper + lower. The reduction's NaN comes back as it is: arithmetic would leave its sign to
+// the order of operations.
+inline float sinQuadrant(reducedAngle const& y) {
+  if (y.upper != y.upper) return y.upper;
+  switch (y.n & 3) {
+    case 0:
+      return sinPoly(y.upper, y.lower);
+    case 1:
+      return cosPoly(y.upper, y.lower);
+    case 2:
+      return -sinPoly(y.upper, y.lower);
+    default:
+      return -cosPoly(y.upper, y.lower);
+  }
+}
+
+inline float cosQuadrant(reducedAngle const& y) { return sinQuadrant({y.n + 1, y.upper, y.lower}); }
+
+}  // namespace qsl_scalar

@@ -1,0 +1,75 @@
+#include "scalar/kernels/sinpi_cospi_single.h"
+
+#include <cmath>
+#include <cstdlib>
+
+#include "scalar/kernels/pi_constants.h"
+#include "scalar/kernels/rem_pio2_single.h"
+#include "scalar/kernels/sine_cosine_series.h"
+
+namespace qsl_scalar {
+
+namespace {
+
+// x modulo 2 in [-1, 1]. Nothing is rounded: fmod is exact, and so is a difference of neighbours.
+float halfTurnsWithin1(float x) {
+  const float r = magnitudeOf(x) < 2.0f ? x : std::fmod(x, 2.0f);
+  if (magnitudeOf(r) <= 1.0f) return r;
+  return r + (r > 0.0f ? -2.0f : 2.0f);
+}
+
+// Multiples of pi/12 have results of their own, since pi r is rounded and would spoil the exact ones among them. The
+// test is on the rounded product: a float next to 1/12 whose product is a whole number counts as 1/12.
+bool isTwelfths(float r) {
+  const float twelfths = r * 12.0f;
+  return twelfths == static_cast<float>(static_cast<std::int32_t>(twelfths));
+}
+
+// sin(k pi / 12) for k from 0 to 6.
+constexpr float sines[] = {
+    0.0f,
+    floatOf(0x3E8483EEu),  // 0.25881904
+    0.5f,
+    floatOf(0x3F3504F3u),  // 0.70710677
+    floatOf(0x3F5DB3D7u),  // 0.86602539
+    floatOf(0x3F7746EAu),  // 0.96592581
+    1.0f,
+};
+
+// The sine has the sign of r, a zero included.
+float sineOfTwelfths(float r) {
+  const int k = std::abs(static_cast<int>(r * 12.0f));
+  const float sine = sines[k <= 6 ? k : 12 - k];
+  return hasSign(r) ? -sine : sine;
+}
+
+float cosineOfTwelfths(float r) {
+  const int k = std::abs(static_cast<int>(r * 12.0f));
+  return k <= 6 ? sines[6 - k] : -sines[k - 6];
+}
+
+// pi r as n pi/2 plus an angle of at most pi/4. Multiples of 1/2 are subtracted from r, where that is exact, and what
+// is left is multiplied by pi in two parts.
+reducedAngle angleOf(float r) {
+  const float magnitude = magnitudeOf(r);
+  const std::int32_t quadrants = magnitude < 0.25f ? 0 : magnitude < 0.75f ? 1 : 2;
+  const std::int32_t n = r > 0.0f ? quadrants : -quadrants;
+  const float rest = r - 0.5f * static_cast<float>(n);
+  return {n, piUpper * rest, piLower * rest};
+}
+
+}  // namespace
+
+float sinpiSingle(float x) {
+  if (magnitudeBitsOf(x) >= exponentBits) return domainNaN;
+  const float r = halfTurnsWithin1(x);
+  return isTwelfths(r) ? sineOfTwelfths(r) : sinQuadrant(angleOf(r));
+}
+
+float cospiSingle(float x) {
+  if (magnitudeBitsOf(x) >= exponentBits) return domainNaN;
+  const float r = halfTurnsWithin1(x);
+  return isTwelfths(r) ? cosineOfTwelfths(r) : cosQuadrant(angleOf(r));
+}
+
+}  // namespace qsl_scalar
