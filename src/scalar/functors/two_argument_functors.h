@@ -24,30 +24,27 @@ struct hypotFtor {
 // The ordinate comes first.
 struct atan2Ftor {
   static constexpr unsigned long grain = 256;
-  static constexpr bool baseOnly = true;  // a chain of tests
 
   template <class A, class B>
-  fp16binary_t operator()(A y, B x) const {
+  ZTHALF_INLINE fp16binary_t operator()(A y, B x) const {
     return {zthalf::atan2Of(plainOperand(y), plainOperand(x))};
   }
 };
 
 struct powerFtor {
   static constexpr unsigned long grain = 256;
-  static constexpr bool baseOnly = true;  // a chain of tests
 
   template <class A, class B>
-  fp16binary_t operator()(A x, B y) const {
-    return {zthalf::powerOf(plainOperand(x), plainOperand(y))};
+  ZTHALF_INLINE fp16binary_t operator()(A x, B y) const {
+    return {zthalf::powerInLanes(plainOperand(x), plainOperand(y))};
   }
 };
 
 struct pow2Ftor {
   static constexpr unsigned long grain = 256;
-  static constexpr bool baseOnly = true;  // a chain of tests
 
   template <class A, class B>
-  fp16binary_t operator()(A x, B y) const {
+  ZTHALF_INLINE fp16binary_t operator()(A x, B y) const {
     return {zthalf::scaledByPowerOfTwo(plainOperand(x), plainOperand(y))};
   }
 };
