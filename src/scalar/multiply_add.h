@@ -55,11 +55,15 @@ inline double fusedMultiplyAdd(double x, double y, double z) {
   return defaultNaN<double>;
 }
 
-// Three halves: float holds the product. The product's NaN is the sum's first operand.
+// Three halves: float holds the product.
+ZTHALF_INLINE std::uint16_t plainMultiplyAdd(std::uint16_t x, std::uint16_t y, std::uint16_t z) {
+  return narrow(nudgedSum<13>(widen<float>(x) * widen<float>(y), widen<float>(z)));
+}
+
+// With the NaN of the defining unit: the product's is the sum's first operand.
 ZTHALF_INLINE std::uint16_t multiplyAdd(std::uint16_t x, std::uint16_t y, std::uint16_t z) {
-  const float product = widen<float>(x) * widen<float>(y);
-  const float sum = nudgedSum<13>(product, widen<float>(z));
-  return settled(narrow(sum), settled(narrow(product), x, y), z);
+  const std::uint16_t product = settled(narrow(widen<float>(x) * widen<float>(y)), x, y);
+  return settled(plainMultiplyAdd(x, y, z), product, z);
 }
 
 template <class Out, class Wide>
