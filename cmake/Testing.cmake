@@ -15,6 +15,7 @@ endif()
 add_library(zthalf_test_support STATIC tests/support/main.cpp)
 target_link_libraries(zthalf_test_support PUBLIC zthalf_internals GTest::gtest GTest::gmock)
 target_include_directories(zthalf_test_support PUBLIC ${PROJECT_SOURCE_DIR})
+target_compile_definitions(zthalf_test_support PUBLIC ZTHALF_GOLDEN_DIRECTORY="${PROJECT_SOURCE_DIR}/tests/golden")
 target_compile_options(zthalf_test_support PUBLIC -Wall -Wextra $<$<BOOL:${ZTHALF_WERROR}>:-Werror>)
 
 if(CMAKE_SYSTEM_PROCESSOR MATCHES "x86_64|AMD64")

@@ -1,19 +1,17 @@
 // Exponentials on arrays.
 #include "frame/instantiate.h"
-#include "frame/simple_loop.h"
 #include "frame/table_loop.h"
 #include "scalar/functors/exponential_functors.h"
 #include "zthalf/half_ops.h"
 
 namespace half {
 
-using half_utils::unaryOpSimpleLoop;
 using half_utils::unaryOpTableLoop;
 namespace functor = scalar::emulated;
 
 template <class T>
 void exp(T* src, T* dst, unsigned long n) {
-  unaryOpSimpleLoop(src, dst, n, functor::expFtor{});
+  unaryOpTableLoop(src, dst, n, functor::expFtor{});
 }
 
 template <class T>

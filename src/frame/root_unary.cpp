@@ -1,7 +1,6 @@
 // Square roots on arrays.
-#include "frame/early_exit_loop.h"
-#include "frame/simple_loop.h"
 #include "frame/stop_conditions.h"
+#include "frame/table_loop.h"
 #include "scalar/functors/root_functors.h"
 #include "zthalf/half_ops.h"
 
@@ -10,16 +9,16 @@ namespace half {
 namespace functor = scalar::emulated;
 
 void sqrt(fp16binary_t* src, fp16binary_t* dst, unsigned long n) {
-  half_utils::unaryOpSimpleLoop(src, dst, n, functor::sqrtFtor{});
+  half_utils::unaryOpTableLoop(src, dst, n, functor::sqrtFtor{});
 }
 
 void rsqrt(fp16binary_t* src, fp16binary_t* dst, unsigned long n) {
-  half_utils::unaryOpSimpleLoop(src, dst, n, functor::rsqrtFtor{});
+  half_utils::unaryOpTableLoop(src, dst, n, functor::rsqrtFtor{});
 }
 
 bool sqrtEarlyExit(fp16binary_t* src, fp16binary_t* dst, unsigned long n) {
-  return templates::emulated::halfUnarySimpleLoopWithEarlyExit(src, dst, n, functor::sqrtFtor{},
-                                                               templates::emulated::isNegativeNumber{});
+  return half_utils::unaryTableLoopWithEarlyExit(src, dst, n, functor::sqrtFtor{},
+                                                 templates::emulated::isNegativeNumber{});
 }
 
 }  // namespace half

@@ -22,6 +22,7 @@ struct unaryPass {
 
 template <class Ftor, class In, class Out>
 struct twoOutPass {
+  static constexpr bool isWide = zthalf::earnsLevels<Ftor>;
   ZTHALF_INLINE static void run(In* src, Out* first, Out* second, unsigned long n) {
     for (unsigned long i = 0; i < n; ++i) Ftor{}(src[i], first[i], second[i]);
   }
@@ -44,8 +45,9 @@ void unaryOpSimpleLoop(In* src, Out* dst, unsigned long n, Ftor f) {
 
 template <class Ftor, class In, class Out>
 void twoOutParallel(In* src, Out* first, Out* second, unsigned long n, Ftor) {
+  const auto pass = zthalf::leveled<twoOutPass<Ftor, In, Out>, In*, Out*, Out*, unsigned long>::chosen();
   forAffineRanges(n, Ftor::grain, [=](unsigned long begin, unsigned long end) {
-    twoOutPass<Ftor, In, Out>::run(src + begin, first + begin, second + begin, end - begin);
+    pass(src + begin, first + begin, second + begin, end - begin);
   });
 }
 
@@ -54,7 +56,7 @@ template <class Ftor, class In, class Out>
 void twoOutSimpleLoop(In* src, Out* first, Out* second, unsigned long n, Ftor f) {
   static_assert(std::is_empty_v<Ftor>, "a functor keeps nothing from one element to the next");
   if (forks(n)) return twoOutParallel(src, first, second, n, f);
-  twoOutPass<Ftor, In, Out>::run(src, first, second, n);
+  zthalf::leveled<twoOutPass<Ftor, In, Out>, In*, Out*, Out*, unsigned long>::chosen()(src, first, second, n);
 }
 
 }  // namespace half_utils

@@ -16,7 +16,7 @@ namespace {
 // of two; rounding begins with the product f * pi/2.
 
 constexpr int lastTerm = 9;   // the product's terms 0 to 9 are always formed
-constexpr int capacity = 20;  // of terms; no float needs more than 15
+constexpr int capacity = 16;  // of terms; no float needs more than 14
 
 // pi/2 as a sum of floats with at most 8 significant bits each, so that their products with digits are exact.
 constexpr std::array<float, 10> halfPiDigits = {
@@ -43,7 +43,7 @@ float termOfProduct(angleDigits const& x, int first, int i) {
 
 // The value 2^exponent * (top + digit[count - 1] / 256 + digit[count - 2] / 256^2 + ... + digit[0] / 256^count).
 struct number {
-  std::array<std::int32_t, capacity + 1> digit;
+  std::array<std::int32_t, capacity> digit;
   int count;
   float top;
   std::int32_t exponent;
@@ -118,40 +118,31 @@ int missingTerms(number const& fraction) {
   return missing;
 }
 
-// Turns the top into digits, or without a top drops the leading zeros: digit[count] is then the leading one, and it has
-// the weight 2^exponent.
+// Makes digit[count] the leading digit, of weight 2^exponent: the top, or without one the first digit that is not zero.
+// The exponent is at least -8 here, so the top is one digit.
 void normalize(number& fraction) {
-  if (fraction.top == 0.0f) {
-    do {
-      --fraction.count;
-      fraction.exponent -= 8;
-    } while (fraction.digit[fraction.count] == 0);
+  if (fraction.top != 0.0f) {
+    fraction.digit[fraction.count] = static_cast<std::int32_t>(scalbnSingle(fraction.top, -fraction.exponent));
     return;
   }
-  const float top = scalbnSingle(fraction.top, -fraction.exponent);
-  if (top < 256.0f) {
-    fraction.digit[fraction.count] = static_cast<std::int32_t>(top);
-    return;
-  }
-  const float carry = static_cast<float>(static_cast<std::int32_t>(top * 0.00390625f));
-  fraction.digit[fraction.count] = static_cast<std::int32_t>(top + carry * -256.0f);
-  ++fraction.count;
-  fraction.exponent += 8;
-  fraction.digit[fraction.count] = static_cast<std::int32_t>(carry);
+  do {
+    --fraction.count;
+    fraction.exponent -= 8;
+  } while (fraction.digit[fraction.count] == 0);
 }
 
 // f * pi/2 as the sum of the products of equal weight, the lightest ones first; the lower part is what the rounding of
 // the sum dropped, found by adding again from the heaviest down.
 reducedAngle timesHalfPi(number const& fraction) {
   const int last = fraction.count;
-  std::array<float, capacity + 1> scaled{};
+  std::array<float, capacity> scaled{};
   float weight = exponentRaised(1.0f, fraction.exponent);
   for (int i = last; i >= 0; --i) {
     scaled[i] = weight * static_cast<float>(fraction.digit[i]);
     weight = weight * 0.00390625f;
   }
 
-  std::array<float, capacity + 1> product{};
+  std::array<float, capacity> product{};
   for (int i = last; i >= 0; --i) {
     float sum = 0.0f;
     for (int k = 0; k <= lastTerm && k <= last - i; ++k) sum = sum + halfPiDigits[k] * scaled[i + k];

@@ -9,8 +9,8 @@ namespace qsl_scalar {
 
 namespace {
 
-// pi/2 = lead[0] + lead[1] + lead[2] + ..., where each lead has at most 17 significant bits, so that for the n at hand
-// n * lead is exact or nearly so. rest[i] is what is left of pi/2 after lead[0] to lead[i], rounded.
+// pi/2 = lead[0] + lead[1] + lead[2] + ..., where each lead has at most 17 significant bits, so that n * lead is exact
+// for n up to 128. rest[i] is what is left of pi/2 after lead[0] to lead[i], rounded.
 constexpr float lead[] = {
     floatOf(0x3FC90F80u),  // 1.5707855224609375
     floatOf(0x37354400u),  // 1.0804273188114166e-05
@@ -24,6 +24,7 @@ constexpr float rest[] = {
 constexpr float twoOverPi = floatOf(0x3F22F984u);  // 0.6366198062896729
 
 constexpr std::uint32_t threeQuarterPi = 0x4016CBE2u;  // 2.3561945
+constexpr std::uint32_t nearHalfPi = 0x3FC90FC0u;      // 1.5707932, 27 units below pi/2
 constexpr std::uint32_t middleLimit = 0x43490F80u;     // 201.0605, about 128 pi/2
 
 constexpr std::uint32_t leadingBits = 0xFFFFFF00u;  // sign, exponent and the upper 15 bits of a fraction
@@ -36,11 +37,11 @@ constexpr auto multiplesOfHalfPi = [] {
   return words;
 }();
 
-// From pi/4 to 3 pi/4: n is 1 or -1 and the subtraction of lead[0] is exact. Where x agrees with pi/2 in 24 - 8 bits or
-// more, too little is left of it, and the second pair of constants continues the subtraction.
+// Up to 3 pi/4: n is 1 or -1. Where x agrees with pi/2 in its upper 19 bits, too little is left of it after one step,
+// and the second pair of constants continues the subtraction.
 reducedAngle byOneStep(float x) {
   const std::uint32_t magnitude = magnitudeBitsOf(x);
-  const bool isNear = (magnitude & 0xFFFFFFE0u) == 0x3FC90FC0u || (magnitude & 0xFFFFFFF0u) == 0x3FC90FE0u;
+  const bool isNear = magnitude >= nearHalfPi && magnitude < nearHalfPi + 48;
   const float sign = hasSign(x) ? -1.0f : 1.0f;
   float z = x - sign * lead[0];
   if (isNear) z = z - sign * lead[1];
@@ -63,9 +64,12 @@ difference refined(float r, float n, int i) {
   return {next, n * rest[i] - ((r - next) - w)};
 }
 
-// Up to 201.06. One step is enough unless x lies near the multiple that is subtracted. For n up to 31 the comparison
-// with the multiple's leading bits tells that x does not; otherwise the exponents tell how many bits cancelled, and a
-// second and a third step follow where one leaves fewer than 24 - 9, or two fewer than 48 - 26, bits of the angle.
+// Up to 201.06. One step is enough unless x lies near the multiple that is subtracted: the exponents tell how many bits
+// cancelled, and from 9 on a second step follows, from 26 on, counted after it, a third.
+//
+// For n up to 31 a comparison of leading bits goes before that: x that differs from the multiple there counts as clear
+// of it. The comparison is not exact. An x just across a change of these bits gets one step only although it is near,
+// and its angle is then right to some 22 bits; sine, cosine and tangent have their largest errors there.
 reducedAngle byRepeatedSteps(float x) {
   const float t = magnitudeOf(x);
   const auto n = static_cast<std::int32_t>(t * twoOverPi + 0.5f);
