@@ -2,6 +2,7 @@
 // of 2^-24. Neither uses floating point.
 #pragma once
 
+#include <bit>
 #include <cstdint>
 
 #include "tests/support/exact.h"
@@ -117,24 +118,33 @@ inline std::uint16_t byLongDivision(remainderKind kind, std::uint16_t x, std::ui
   return static_cast<std::uint16_t>(assembled(r, b.exponent) | sign);
 }
 
+// A whole number of units, rounded to a half: to nearest, ties to even.
+inline std::uint16_t halfOfUnits(std::uint64_t units) {
+  const int below = units < 2048 ? 0 : static_cast<int>(std::bit_width(units)) - 11;  // bits that do not fit
+  std::uint64_t kept = units >> below;
+  const std::uint64_t dropped = (units - (kept << below)) * 2;
+  const std::uint64_t unit = std::uint64_t{1} << below;
+  if (dropped > unit || (dropped == unit && (kept & 1) != 0)) ++kept;
+  return static_cast<std::uint16_t>(1024 * static_cast<std::uint64_t>(below) + kept);
+}
+
 // With X and Y the magnitudes in units: the remainder is X mod Y. Where Y is no multiple of one, it is zero unless its
 // distance to the nearest multiple of Y is above Y * 2^(E - 11), for a quotient X / Y in [2^E, 2^(E+1)).
 inline std::uint16_t inUnits(remainderKind kind, std::uint16_t x, std::uint16_t y) {
   std::uint16_t result = 0;
   if (specialRemainder(kind, x, y, result)) return result;
   const bool isRem = kind == remainderKind::rem;
-  const std::int64_t wholeX = exact::unitsOf(magnitudeOf(x));
-  const std::int64_t wholeY = exact::unitsOf(magnitudeOf(y));
-  std::int64_t r = wholeX % wholeY;
+  const auto wholeX = static_cast<std::uint64_t>(exact::unitsOf(magnitudeOf(x)));
+  const auto wholeY = static_cast<std::uint64_t>(exact::unitsOf(magnitudeOf(y)));
+  std::uint64_t r = wholeX % wholeY;
   if (wholeX >= wholeY && wholeY % exact::unitsInOne != 0) {
-    int places = 11;
-    for (std::int64_t power = wholeY; power <= wholeX / 2; power *= 2) --places;  // 11 - E
-    const std::int64_t distance = r < wholeY - r ? r : wholeY - r;
-    if (places <= 0 || distance << places <= wholeY) r = 0;
+    const auto places = static_cast<int>(std::bit_width(wholeX)) - static_cast<int>(std::bit_width(wholeY));
+    const int e = wholeY << places > wholeX ? places - 1 : places;
+    const std::uint64_t distance = r < wholeY - r ? r : wholeY - r;
+    if (e >= 11 || distance << (11 - e) <= wholeY) r = 0;
   }
   if (!isRem && r != 0 && signOf(x) != signOf(y)) r = wholeY - r;
-  const std::uint16_t magnitude = exact::nearestHalf(static_cast<exact::wideInteger>(r), exact::unitExponent);
-  return magnitude | signOf(isRem ? x : y);
+  return halfOfUnits(r) | signOf(isRem ? x : y);
 }
 
 }  // namespace zthalf::reference
