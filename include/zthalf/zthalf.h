@@ -7,3 +7,4 @@
 #include "zthalf/half_t.h"
 #include "zthalf/half_vector.h"
 #include "zthalf/lifecycle.h"
+#include "zthalf/mod_rem.h"

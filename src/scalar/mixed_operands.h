@@ -1,0 +1,40 @@
+// Operands of mixed type: the type in which they meet, and their values there.
+// Internal: promises nothing to users of the library.
+#pragma once
+
+#include <cstdint>
+#include <type_traits>
+
+#include "core/bits.h"
+#include "core/float_conversion.h"
+
+namespace zthalf {
+
+// An operand is a half pattern, a float or a double.
+template <class T>
+inline constexpr bool isHalfOperand = std::is_same_v<T, std::uint16_t>;
+
+template <class... Operands>
+inline constexpr bool anyDouble = (std::is_same_v<Operands, double> || ...);
+
+template <class... Operands>
+inline constexpr bool anyFloat = (std::is_same_v<Operands, float> || ...);
+
+template <class... Operands>
+inline constexpr bool anyHalf = (isHalfOperand<Operands> || ...);
+
+// double if an operand is one, otherwise float.
+template <class... Operands>
+using widestOf = std::conditional_t<anyDouble<Operands...>, double, float>;
+
+// The operand in a type that holds its value exactly.
+template <class Wide, class T>
+ZTHALF_INLINE Wide exactly(T operand) {
+  if constexpr (isHalfOperand<T>) {
+    return widen<Wide>(operand);
+  } else {
+    return static_cast<Wide>(operand);
+  }
+}
+
+}  // namespace zthalf
