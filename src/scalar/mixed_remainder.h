@@ -1,5 +1,6 @@
-// mod and rem of a half and a float or double: the exact remainder in the wider type, with a tolerance of its last
-// place. Internal: promises nothing to users of the library.
+// mod and rem of a half and a float or double: the exact remainder there, with a tolerance of the wider type's last
+// place.
+// Internal: promises nothing to users of the library.
 #pragma once
 
 #include <cmath>
