@@ -83,25 +83,26 @@ void forEachOverload(Visit visit) {
   visit(overload<std::complex<half_t>, std::complex<half_t>>());
 }
 
+constexpr unsigned long drawnPairs = 150'000;
+
 TEST(Ulp, IsTheDistanceOfNumbersInEveryOverload) {
-  constexpr unsigned long n = 150'000;
   forEachOverload([](auto form) {
     using A = typename decltype(form)::left;
     using B = typename decltype(form)::right;
     bitSource bits(111);
-    std::vector<A> a(n);
-    std::vector<B> b(n);
-    std::vector<double> result(n);
-    for (unsigned long i = 0; i < n; ++i) a[i] = drawer<A>::draw(bits), b[i] = drawer<B>::draw(bits);
+    std::vector<A> a(drawnPairs);
+    std::vector<B> b(drawnPairs);
+    std::vector<double> result(drawnPairs);
+    for (unsigned long i = 0; i < drawnPairs; ++i) a[i] = drawer<A>::draw(bits), b[i] = drawer<B>::draw(bits);
     // A part of the pairs close together, where the distance is a small number.
     if constexpr (std::is_same_v<A, B>) {
-      for (unsigned long i = 0; i < n; i += 3) {
+      for (unsigned long i = 0; i < drawnPairs; i += 3) {
         b[i] = a[i];
         reinterpret_cast<unsigned char*>(&b[i])[0] ^= static_cast<unsigned char>(bits() % 8);
       }
     }
-    form.call(a.data(), b.data(), result.data(), n);
-    for (unsigned long i = 0; i < n; ++i) {
+    form.call(a.data(), b.data(), result.data(), drawnPairs);
+    for (unsigned long i = 0; i < drawnPairs; ++i) {
       const double expected = distance(a[i], b[i]);
       ASSERT_EQ(bitsIn(result[i]), bitsIn(expected)) << "pair " << i << ": " << result[i] << ", expected " << expected;
       if constexpr (requires { half_scalar::ulp(a[i], b[i]); }) {

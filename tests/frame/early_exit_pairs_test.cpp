@@ -16,11 +16,9 @@ using namespace half::templates::emulated;
 
 // Shows both operands and their order.
 struct packFtor {
-  static constexpr unsigned long grain = 256;
   unsigned int operator()(unsigned short a, unsigned short b) const { return a * 0x10000u + b; }
 };
 struct mixFtor {
-  static constexpr unsigned long grain = 256;
   unsigned short operator()(unsigned short a, unsigned short b) const {
     return static_cast<unsigned short>(a * 31u + b * 7u + 1);
   }
@@ -138,21 +136,24 @@ TEST(BinaryEarlyExitLoop, FindsItsPairByDivisionOfInts) {
   EXPECT_EQ(pairOf((1UL << 32) - 7, 3).rem, -1);
 }
 
+void checkParallel(unsigned long left, unsigned long right) {
+  const unsigned long n = left * right;
+  std::vector<unsigned short> a(left), b(right);
+  for (unsigned long i = 0; i < left; ++i) a[i] = static_cast<unsigned short>(i * 40503u);
+  for (unsigned long i = 0; i < right; ++i) b[i] = static_cast<unsigned short>(i * 30011u + 5);
+  std::vector<unsigned int> serial(n + 1, 9);
+  EXPECT_TRUE(halfBinarySimpleLoopWithEarlyExit(a.data(), b.data(), serial.data(), right, n, packFtor{}, isNeverFor{}));
+  onEachThreadCount([&](int threads) {
+    std::vector<unsigned int> parallel(n + 1, 9);
+    EXPECT_TRUE(binaryWithEarlyExitParallel(a.data(), b.data(), parallel.data(), right, n, packFtor{}, isNeverFor{}));
+    EXPECT_EQ(parallel, serial) << threads << " threads";
+  });
+}
+
 TEST(BinaryEarlyExitParallel, GivesTheBitsOfTheSerialLoopWhereNothingStops) {
-  for (auto const& [left, right] : {std::pair{1UL, 30'000UL}, {30'000UL, 1UL}, {150UL, 200UL}}) {
-    const unsigned long n = left * right;
-    std::vector<unsigned short> a(left), b(right);
-    for (unsigned long i = 0; i < left; ++i) a[i] = static_cast<unsigned short>(i * 40503u);
-    for (unsigned long i = 0; i < right; ++i) b[i] = static_cast<unsigned short>(i * 30011u + 5);
-    std::vector<unsigned int> serial(n + 1, 9);
-    EXPECT_TRUE(
-        halfBinarySimpleLoopWithEarlyExit(a.data(), b.data(), serial.data(), right, n, packFtor{}, isNeverFor{}));
-    onEachThreadCount([&](int threads) {
-      std::vector<unsigned int> parallel(n + 1, 9);
-      EXPECT_TRUE(binaryWithEarlyExitParallel(a.data(), b.data(), parallel.data(), right, n, packFtor{}, isNeverFor{}));
-      EXPECT_EQ(parallel, serial) << threads << " threads";
-    });
-  }
+  checkParallel(1, 30'000);
+  checkParallel(30'000, 1);
+  checkParallel(150, 200);
 }
 
 TEST(BinaryEarlyExitParallel, IsFalseForAStoppingPairAnywhere) {
@@ -176,7 +177,6 @@ TEST(BinaryEarlyExitParallel, IsFalseForAStoppingPairAnywhere) {
 threadWitness witness;
 
 struct witnessFtor {
-  static constexpr unsigned long grain = 256;
   unsigned short operator()(unsigned short a, unsigned short) const {
     witness.called();
     return a;

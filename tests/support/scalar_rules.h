@@ -34,7 +34,7 @@ inline half_t convertToHalf(long long x) { return {impl::convertInt64ToHalf(x)};
 inline half_t convertToHalf(logicalByte x) { return {impl::convertLogicalToHalf(x.byte != 0)}; }
 
 // A half on its way to the type that the row names.
-struct convertFromHalf {
+struct halfToBeConverted {
   half_t x;
 
   operator float() const { return impl::convertHalfToSingle(x.bits); }
@@ -49,6 +49,8 @@ struct convertFromHalf {
   operator long long() const { return impl::convertHalfToInt64(x.bits); }
   operator bool() const { return impl::convertHalfToLogical(x.bits); }
 };
+
+inline halfToBeConverted convertFromHalf(half_t x) { return {x}; }
 
 inline half_t uminus(half_t x) { return -x; }
 
@@ -69,7 +71,7 @@ inline bool isfinite(complexHalf z) { return isfinite(z.real()) && isfinite(z.im
 // Holds a rule to the output type of its row: std::complex would take a real result silently.
 template <class Out, class Result>
 Out exactly(Result result) {
-  static_assert(std::is_same_v<Out, Result> || std::is_same_v<Result, convertFromHalf>,
+  static_assert(std::is_same_v<Out, Result> || std::is_same_v<Result, halfToBeConverted>,
                 "this row needs a rule of its own");
   return result;
 }
