@@ -70,6 +70,19 @@ TEST(Expm1Single, EqualsItsStepsForEveryMultiple) {
   }
 }
 
+// Every float on both sides of the multiples 22, 23 and 56, 57 of ln 2, where the order of the last additions changes.
+TEST(Expm1Single, EqualsItsStepsWhereTheLastAdditionsChange) {
+  bitComparison compare("expm1Single");
+  for (const double change : {22.5, 56.5}) {
+    const std::uint32_t first = bitsIn(static_cast<float>((change - 0.6) * 0.693147180559945309));
+    const std::uint32_t last = bitsIn(static_cast<float>((change + 0.6) * 0.693147180559945309));
+    for (std::uint32_t word = first; word <= last; ++word) {
+      const float x = std::bit_cast<float>(word);
+      compare.check(expm1Single(x), reference(x), x);
+    }
+  }
+}
+
 TEST(LongExpm1Single, EqualsItsStepsOnEveryFloat) { expectSameOnFloats(1, expm1Single, reference); }
 
 }  // namespace

@@ -57,6 +57,17 @@ TEST(LogSingle, EqualsItsStepsAroundEveryBoundary) {
   }
 }
 
+// The short series is taken within 15 units below a power of two, and at it.
+TEST(LogSingle, EqualsItsStepsAroundEveryPowerOfTwo) {
+  bitComparison compare("logSingle");
+  for (std::uint32_t field = 1; field <= 254; ++field) {
+    for (std::uint32_t distance = 0; distance <= 32; ++distance) {
+      const float x = floatOf((field << 23) + 8 - distance);
+      compare.check(logSingle(x), reference(x), x);
+    }
+  }
+}
+
 TEST(LongLogSingle, EqualsItsStepsOnEveryFloat) { expectSameOnFloats(1, logSingle, reference); }
 
 }  // namespace

@@ -110,7 +110,7 @@ std::uint64_t differences(std::uint64_t count) {
 }
 
 TEST(PowSingle, EqualsItsStepsOnNumberedPairs) { EXPECT_EQ(differences(1u << 21), 0u); }
-TEST(LongPowSingle, EqualsItsStepsOnNumberedPairs) { EXPECT_EQ(differences(1u << 30), 0u); }
+TEST(LongPowSingle, EqualsItsStepsOnNumberedPairs) { EXPECT_EQ(differences(1u << 27), 0u); }
 
 // Every base whose logarithm the special expansion for huge powers takes, and the bases next to it.
 TEST(PowSingle, EqualsItsStepsForHugePowers) {
