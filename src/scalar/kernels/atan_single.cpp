@@ -13,19 +13,19 @@ struct centre {
   float lower;
 };
 
-constexpr centre half = {floatOf(0x3EED6000u), floatOf(0x37CE0AC3u)};         // 0.4636230, 2.4561e-05
-constexpr centre one = {floatOf(0x3F490000u), floatOf(0x397DAA22u)};          // 0.7851562, 2.4191e-04
-constexpr centre threeHalves = {floatOf(0x3F7B9000u), floatOf(0x3905E941u)};  // 0.9826660, 1.2770e-04
-constexpr centre unbounded = {floatOf(0x3FC90000u), floatOf(0x39FDAA22u)};    // 1.5703125, 4.8382e-04
+constexpr centre half = {floatOf(0x3EED6000u), floatOf(0x37CE0AC3u)};         // 0.46362305, 2.4562125e-05
+constexpr centre one = {floatOf(0x3F490000u), floatOf(0x397DAA22u)};          // 0.78515625, 0.0002419134
+constexpr centre threeHalves = {floatOf(0x3F7B9000u), floatOf(0x3905E941u)};  // 0.982666, 0.00012770762
+constexpr centre unbounded = {floatOf(0x3FC90000u), floatOf(0x39FDAA22u)};    // 1.5703125, 0.0004838268
 
 // a - atan a = a R on |a| up to 0.4375, R = a^2/3 - a^4/5 + a^6/7 - ..., fitted, and split into its even and odd powers
 // of z = a^2.
 float tail(float a) {
-  constexpr float a1 = floatOf(0x3EAAAAAAu);  // 0.3333333134651184
-  constexpr float a2 = floatOf(0xBE4CCB05u);
-  constexpr float a3 = floatOf(0x3E11FCE2u);
-  constexpr float a4 = floatOf(0xBDDA7B04u);
-  constexpr float a5 = floatOf(0x3D7E7ADEu);
+  constexpr float a1 = floatOf(0x3EAAAAAAu);  // 0.3333333
+  constexpr float a2 = floatOf(0xBE4CCB05u);  // -0.19999321
+  constexpr float a3 = floatOf(0x3E11FCE2u);  // 0.14256623
+  constexpr float a4 = floatOf(0xBDDA7B04u);  // -0.106679946
+  constexpr float a5 = floatOf(0x3D7E7ADEu);  // 0.062128894
   const float z = a * a;
   const float w = z * z;
   return a * (w * (w * a4 + a2) + z * (w * (w * a5 + a3) + a1));
