@@ -10,11 +10,11 @@ namespace {
 
 // asin x = x + x r(x^2) on |x| up to 1/2: r as a quotient of two polynomials, fitted.
 float series(float z) {
-  constexpr float p1 = floatOf(0x3E2AAAABu);  // 0.1666666716337204, near 1/6
-  constexpr float p2 = floatOf(0xBDF4B1CBu);
-  constexpr float p3 = floatOf(0x3BB30EBCu);
-  constexpr float q1 = floatOf(0xBF955C3Eu);
-  constexpr float q2 = floatOf(0x3E947AD3u);
+  constexpr float p1 = floatOf(0x3E2AAAABu);  // 0.16666667, near 1/6
+  constexpr float p2 = floatOf(0xBDF4B1CBu);  // -0.11947974
+  constexpr float p3 = floatOf(0x3BB30EBCu);  // 0.005464403
+  constexpr float q1 = floatOf(0xBF955C3Eu);  // -1.1668775
+  constexpr float q2 = floatOf(0x3E947AD3u);  // 0.28999957
   const float p = z * (z * (z * p3 + p2) + p1);
   const float q = z * (z * q2 + q1) + 1.0f;
   return p / q;

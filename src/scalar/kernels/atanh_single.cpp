@@ -8,7 +8,7 @@ namespace qsl_scalar {
 // atanh a = ln((1 + a) / (1 - a)) / 2 = ln(1 + 2a / (1 - a)) / 2. Below 1/2 the quotient is split as
 // 2a / (1 - a) = 2a + 2a^2 / (1 - a), whose first term is exact. The result is halved before it gets its sign.
 float atanhSingle(float x) {
-  constexpr std::uint32_t tiny = 0x31800016u;  // 3.7252998e-09: below it atanh x rounds to x
+  constexpr std::uint32_t tiny = 0x31800016u;  // 3.7253e-09: below it atanh x rounds to x
   const float a = magnitudeOf(x);
   if (!(a <= 1.0f)) return domainNaN;
   if (a == 1.0f) return hasSign(x) ? negativeInfinity : infinity;

@@ -14,9 +14,9 @@ constexpr float ln2Trailing = floatOf(0x3805FDF4u);  // 3.194618329871446e-05
 
 // With c = r - r^2 (c1 + c2 r^2 + c3 r^4), near r - (r coth(r/2) - 2): exp(r) = 1 + r + r c / (2 - c).
 float correction(float r) {
-  constexpr float c1 = floatOf(0x3E2AAAABu);  // 0.1666666716337204, near 1/6
-  constexpr float c2 = floatOf(0xBB360B70u);  // -0.0027777738, near -1/360
-  constexpr float c3 = floatOf(0x388A4F5Fu);
+  constexpr float c1 = floatOf(0x3E2AAAABu);  // 0.16666667, near 1/6
+  constexpr float c2 = floatOf(0xBB360B70u);  // -0.0027777813, near -1/360
+  constexpr float c3 = floatOf(0x388A4F5Fu);  // 6.595137e-05
   const float square = r * r;
   return r - square * (square * (square * c3 + c2) + c1);
 }
@@ -48,7 +48,7 @@ float expSingle(float x) {
   constexpr float underflow = floatOf(0xC2CE8ED0u);        // -103.27893
   constexpr std::uint32_t halfLn2 = 0x3EB17217u;           // 0.34657356
   constexpr std::uint32_t threeHalvesOfLn2 = 0x3F851592u;  // 1.0397208
-  constexpr std::uint32_t tiny = 0x31800016u;              // 3.7252998e-09
+  constexpr std::uint32_t tiny = 0x31800016u;              // 3.7253e-09
 
   const std::uint32_t magnitude = magnitudeBitsOf(x);
   const bool isNegative = hasSign(x);

@@ -27,7 +27,7 @@ constexpr std::array<float, 10> halfPiDigits = {
     floatOf(0x2B500000u),  // 7.389644451905042e-13
     floatOf(0x27C20000u),  // 5.384581669432009e-15
     floatOf(0x22D00000u),  // 5.637851296924623e-18
-    floatOf(0x1FC40000u),  // 8.30055726673725e-20
+    floatOf(0x1FC40000u),  // 8.300923e-20
     floatOf(0x1BC60000u),  // 3.2756352257180363e-22
 };
 

@@ -23,9 +23,9 @@ constexpr float rest[] = {
 };
 constexpr float twoOverPi = floatOf(0x3F22F984u);  // 0.6366198062896729
 
-constexpr std::uint32_t threeQuarterPi = 0x4016CBE2u;  // 2.3561945
+constexpr std::uint32_t threeQuarterPi = 0x4016CBE2u;  // 2.356194
 constexpr std::uint32_t nearHalfPi = 0x3FC90FC0u;      // 1.5707932, 27 units below pi/2
-constexpr std::uint32_t middleLimit = 0x43490F80u;     // 201.0605, about 128 pi/2
+constexpr std::uint32_t middleLimit = 0x43490F80u;     // 201.06055, about 128 pi/2
 
 constexpr std::uint32_t leadingBits = 0xFFFFFF00u;  // sign, exponent and the upper 15 bits of a fraction
 

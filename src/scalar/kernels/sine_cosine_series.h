@@ -12,16 +12,16 @@ inline constexpr float tinyAngle = floatOf(0x32000000u);  // 2^-27
 
 // sin a = a + a^3 (sine1 + sine2 z + sine3 z^2 + sine4 z^3), z = a^2, on |a| up to pi/4: near -1/3!, 1/5!, -1/7!, 1/9!,
 // and fitted.
-inline constexpr float sine1 = floatOf(0xBE2AAAABu);  // -0.16666667163372040
-inline constexpr float sine2 = floatOf(0x3C088887u);  // 0.008333330973982811
-inline constexpr float sine3 = floatOf(0xB95009C3u);  // -0.00019839218410197645
-inline constexpr float sine4 = floatOf(0x3636D9C0u);  // 2.7247372599958908e-06
+inline constexpr float sine1 = floatOf(0xBE2AAAABu);  // -0.16666667
+inline constexpr float sine2 = floatOf(0x3C088887u);  // 0.008333332
+inline constexpr float sine3 = floatOf(0xB95009C3u);  // -0.00019840062
+inline constexpr float sine4 = floatOf(0x3636D9C0u);  // 2.724686e-06
 
 // cos a = 1 - z/2 + z^2 (cosine1 + cosine2 z + cosine3 z^2 + cosine4 z^3): near 1/4!, -1/6!, 1/8!, -1/10!.
-inline constexpr float cosine1 = floatOf(0x3D2AAAABu);  // 0.041666667908430099
-inline constexpr float cosine2 = floatOf(0xBAB60B60u);  // -0.0013888888061046600
-inline constexpr float cosine3 = floatOf(0x37D00AD5u);  // 2.4801497173029929e-05
-inline constexpr float cosine4 = floatOf(0xB4928E05u);  // -2.7297387805447215e-07
+inline constexpr float cosine1 = floatOf(0x3D2AAAABu);  // 0.041666668
+inline constexpr float cosine2 = floatOf(0xBAB60B60u);  // -0.0013888888
+inline constexpr float cosine3 = floatOf(0x37D00AD5u);  // 2.4800576e-05
+inline constexpr float cosine4 = floatOf(0xB4928E05u);  // -2.7297952e-07
 
 // sin(a + b) for a pair whose b is small against a: sin a + b cos a, with cos a = 1 - z/2. Every term that contains b
 // is added to the small correction and not to a.
@@ -40,8 +40,9 @@ inline float sinPoly(float a) {
   return a + (a * z) * (z * (z * (z * sine4 + sine3) + sine2) + sine1);
 }
 
-// cos(a + b) = cos a - a b. From 0.3 on 1 - z/2 would lose bits by rounding, so part of z/2 is taken off the one first,
-// in an exact subtraction: h is about |a|/4, with few bits, and up to 0.78125 below z/2 or not far above it.
+// cos(a + b) = cos a - a b. From 0.3 on 1 - z/2 would be rounded too coarsely. There 1 - h comes first, exact since h
+// has few bits, and z/2 - h, at most 0.11 in size, is subtracted with the rest: h is about |a|/4, and 0.28125 above
+// 0.78125.
 inline float cosPoly(float a, float b) {
   const float magnitude = magnitudeOf(a);
   if (magnitude < tinyAngle) return 1.0f;

@@ -10,7 +10,7 @@ namespace {
 
 constexpr float halfLn2 = floatOf(0x3EB17217u);         // 0.34657356
 constexpr float expOverflow = floatOf(0x42B17217u);     // 88.722832: the last argument with a finite exponential
-constexpr float resultOverflow = floatOf(0x42B2D4FCu);  // 89.41599: the last one with a finite half of it
+constexpr float resultOverflow = floatOf(0x42B2D4FCu);  // 89.415985: the last one with a finite half of it
 
 }  // namespace
 
@@ -18,7 +18,7 @@ constexpr float resultOverflow = floatOf(0x42B2D4FCu);  // 89.41599: the last on
 // equal, (2 t - t^2 / (t + 1)) / 2. From 22 on the second term is below the last place of the first. Where the
 // exponential overflows and its half does not, it is applied in two halves.
 float sinhSingle(float x) {
-  constexpr std::uint32_t tiny = 0x31800016u;  // 3.7252998e-09
+  constexpr std::uint32_t tiny = 0x31800016u;  // 3.7253e-09
   if (magnitudeBitsOf(x) >= exponentBits) return x;
   const float magnitude = magnitudeOf(x);
   const float half = hasSign(x) ? -0.5f : 0.5f;
@@ -39,7 +39,7 @@ float sinhSingle(float x) {
 // cosh x = 1 + t^2 / (2 (t + 1)) with t = exp|x| - 1 near zero, (exp|x| + exp(-|x|)) / 2 further on, and beyond as the
 // sine. An infinity and a NaN are squared: plus infinity and the quiet NaN.
 float coshSingle(float x) {
-  constexpr std::uint32_t tiny = 0x0DA24260u;  // 1.0000000e-30
+  constexpr std::uint32_t tiny = 0x0DA24260u;  // 1e-30
   if (magnitudeBitsOf(x) >= exponentBits) return x * x;
   const float magnitude = magnitudeOf(x);
   if (magnitude < halfLn2) {

@@ -10,14 +10,14 @@ namespace {
 
 // tan a = a + tangent1 a^3 + a^5 p(a^2) on |a| up to 0.6744, p of degree 4 and split into its even and odd powers; the
 // coefficients are near 1/3, 2/15, 17/315, 62/2835, ..., and fitted.
-constexpr float tangent1 = floatOf(0x3EAAAAAAu);  // 0.3333333134651184
-constexpr float tangent2 = floatOf(0x3E088913u);
-constexpr float tangent3 = floatOf(0x3D5CD8E8u);
-constexpr float tangent4 = floatOf(0x3CB6D1BCu);
-constexpr float tangent5 = floatOf(0x3BE8E61Au);
-constexpr float tangent6 = floatOf(0x3BD7F1BAu);
+constexpr float tangent1 = floatOf(0x3EAAAAAAu);  // 0.3333333
+constexpr float tangent2 = floatOf(0x3E088913u);  // 0.1333354
+constexpr float tangent3 = floatOf(0x3D5CD8E8u);  // 0.053917795
+constexpr float tangent4 = floatOf(0x3CB6D1BCu);  // 0.022316806
+constexpr float tangent5 = floatOf(0x3BE8E61Au);  // 0.0071075084
+constexpr float tangent6 = floatOf(0x3BD7F1BAu);  // 0.0065900953
 
-constexpr std::uint32_t tiny = 0x31800016u;     // 3.7252998e-09: below it tan a rounds to a
+constexpr std::uint32_t tiny = 0x31800016u;     // 3.7253e-09: below it tan a rounds to a
 constexpr std::uint32_t nearEnd = 0x3F2CA579u;  // 0.6743999: above it the series is turned round at pi/4
 
 // What a function of the reduced angle is asked for: the tangent, or, an odd multiple of pi/2 having been taken away,
