@@ -43,10 +43,10 @@ ZTHALF_INLINE float atanOfMagnitude(float t) {
   constexpr float unboundedUpper = floatOf(0x3FC90000u);    // 1.5703125
   constexpr float unboundedLower = floatOf(0x39FDAA22u);    // 0.0004838267923332751
   constexpr float a1 = floatOf(0x3EAAAAAAu);                // 0.3333333134651184
-  constexpr float a2 = floatOf(0xBE4CCB05u);                // -0.19999320805072784
-  constexpr float a3 = floatOf(0x3E11FCE2u);                // 0.1425662338733673
-  constexpr float a4 = floatOf(0xBDDA7B04u);                // -0.10667994618415833
-  constexpr float a5 = floatOf(0x3D7E7ADEu);                // 0.06212889403104782
+  constexpr float a2 = floatOf(0xBE4CCB05u);                // -0.19999321
+  constexpr float a3 = floatOf(0x3E11FCE2u);                // 0.14256623
+  constexpr float a4 = floatOf(0xBDDA7B04u);                // -0.106679946
+  constexpr float a5 = floatOf(0x3D7E7ADEu);                // 0.062128894
 
   const auto isTiny = zthalf::maskOf<std::uint32_t>(t < 0x1p-29f);
   const float held = floatOf(bitsOf(t < 0x1p30f ? t : 0x1p30f) & ~isTiny);
