@@ -13,20 +13,15 @@
 
 namespace zthalf {
 
-// An 8-bit integer is exact in half: the pattern is assembled from the position of the highest set bit, without the
-// floating-point unit. Signed values go by their magnitude, and -128 is 0x80 there like any other.
+// An 8-bit integer is exact in half, so nothing is rounded and the pattern is assembled: converting to single finds the
+// highest set bit, in vector lanes too, and the single's exponent and leading fraction bits become the half's.
 template <class Integer>
 requires(sizeof(Integer) == 1) ZTHALF_INLINE std::uint16_t integerToHalf(Integer value) {
-  const bool negative = std::is_signed_v<Integer> && value < 0;
-  const auto magnitude = static_cast<std::uint8_t>(negative ? 0 - value : value);
-  const unsigned high = magnitude >= 16 ? 4 : 0;
-  const unsigned nibble = magnitude >> high;
-  const unsigned pair = nibble >= 4 ? 2 : 0;
-  const unsigned position = high + pair + (nibble >> pair >= 2 ? 1 : 0);
-  const unsigned fraction = ((static_cast<unsigned>(magnitude) << (7 - position)) & 0x7F) << 3;
-  const unsigned assembled = (position << 10) + fraction + pattern::one;
-  const unsigned present = maskOf<std::uint16_t>(magnitude != 0);
-  return static_cast<std::uint16_t>((assembled & present) | (negative ? pattern::signBit : 0));
+  constexpr std::uint32_t rebias = (127 - 15) << 10;
+  const std::uint32_t word = bitsOf(static_cast<float>(static_cast<std::int32_t>(value)));
+  const auto sign = static_cast<std::uint16_t>((word >> 16) & pattern::signBit);
+  const auto magnitude = static_cast<std::uint16_t>(((word & 0x7FFFFFFFu) >> 13) - rebias);
+  return static_cast<std::uint16_t>(magnitude & maskOf<std::uint16_t>(value != 0)) | sign;
 }
 
 // A 16-bit integer is exact in single, so the one rounding is that of narrow.
