@@ -51,7 +51,8 @@ function(zthalf_add_test)
       set_tests_properties(long/${name} PROPERTIES LABELS long)
       list(APPEND names long/${name})
     endif()
-    set_tests_properties(${names} PROPERTIES ENVIRONMENT ZTHALF_TEST_LEVEL=${level} SKIP_RETURN_CODE 77)
+    set_tests_properties(${names} PROPERTIES SKIP_RETURN_CODE 77
+      ENVIRONMENT "ZTHALF_TEST_LEVEL=${level};TSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/tsan.supp")
   endforeach()
 endfunction()
 

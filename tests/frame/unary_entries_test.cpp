@@ -73,10 +73,10 @@ struct inputs {
   static void appendSystematic(std::vector<std::byte>& bytes, Integer const*) {
     for (long long x = -66'000; x <= 66'000; ++x) append(bytes, static_cast<Integer>(x));
     for (unsigned shift = 0; shift < 8 * sizeof(Integer); ++shift) {
-      const auto power = static_cast<Integer>(1ULL << shift);
-      for (const int step : {-1, 0, 1}) {
-        append(bytes, static_cast<Integer>(power + static_cast<Integer>(step)));
-        append(bytes, static_cast<Integer>(static_cast<Integer>(step) - power));
+      const auto power = 1ULL << shift;  // unsigned, so that the neighbours of the range's ends wrap
+      for (const auto step : {-1ULL, 0ULL, 1ULL}) {
+        append(bytes, static_cast<Integer>(power + step));
+        append(bytes, static_cast<Integer>(step - power));
       }
     }
   }
