@@ -110,9 +110,13 @@ ZTHALF_API bool isImagZero(std::complex<unsigned short>* src, unsigned long n);
 template <class T>
 ZTHALF_API bool isWholeArrayFinite(T* src, unsigned long n);
 
-template <class Left, class Right, class Out>
-ZTHALF_API void plus(Left* a, Right* b, Out* c, unsigned long na, unsigned long ndimsA, unsigned long const* dimsA,
-                     unsigned long nb, unsigned long ndimsB, unsigned long const* dimsB, unsigned long nc,
+/// The operations with implicit expansion, each over the pairs of element types of its rows in detail/entries.h.
+#define ZTHALF_DECLARE_EXPANDING(op)                                                                                \
+  template <class Left, class Right, class Out>                                                                     \
+  ZTHALF_API void op(Left* a, Right* b, Out* c, unsigned long na, unsigned long ndimsA, unsigned long const* dimsA, \
+                     unsigned long nb, unsigned long ndimsB, unsigned long const* dimsB, unsigned long nc,          \
                      unsigned long ndimsC, unsigned long const* dimsC);
+ZTHALF_DECLARE_EXPANDING(plus)
+#undef ZTHALF_DECLARE_EXPANDING
 
 }  // namespace half

@@ -58,6 +58,12 @@ inline constexpr bool earnsLevels = !requires {
   requires Ftor::baseOnly;
 };
 
+// The same for one combination of element types: its member template baseOnlyFor<Elements...> may say otherwise too.
+template <class Ftor, class... Elements>
+inline constexpr bool earnsLevelsFor = earnsLevels<Ftor> && !requires {
+  requires Ftor::template baseOnlyFor<Elements...>;
+};
+
 template <class Pass, class... Args>
 struct leveled {
   using function = void (*)(Args...);

@@ -34,7 +34,7 @@ ZTHALF_INLINE T from(T value, unsigned long) {
 // a single value out of the loop.
 template <class Ftor, class T1, class T2, class R>
 struct binaryPass {
-  static constexpr bool isWide = zthalf::earnsLevels<Ftor>;
+  static constexpr bool isWide = zthalf::earnsLevelsFor<Ftor, std::remove_pointer_t<T1>, std::remove_pointer_t<T2>>;
   ZTHALF_INLINE static void run(T1 a, T2 b, R* c, unsigned long n) {
     for (unsigned long i = 0; i < n; ++i) c[i] = Ftor{}(elementOf(a, i), elementOf(b, i));
   }

@@ -10,39 +10,39 @@
 
 // Unary rows: X(entry, facade name, input tag, output tag, template instance or function in namespace half)
 
-#define ZTHALF_CONVERSION_ENTRY(X, Tag)                                                                            \
-  X(convert##Tag##ToHalf, convertToHalf, Tag, Half, convert<element::Tag, element::Half>)                          \
+#define ZTHALF_CONVERSION_ENTRY(X, Tag)                                                   \
+  X(convert##Tag##ToHalf, convertToHalf, Tag, Half, convert<element::Tag, element::Half>) \
   X(convertHalfTo##Tag, convertFromHalf, Half, Tag, convert<element::Half, element::Tag>)
 
-#define ZTHALF_CONVERSION_ENTRIES(X)  \
-  ZTHALF_CONVERSION_ENTRY(X, Single)  \
-  ZTHALF_CONVERSION_ENTRY(X, Double)  \
-  ZTHALF_CONVERSION_ENTRY(X, UInt8)   \
-  ZTHALF_CONVERSION_ENTRY(X, Int8)    \
-  ZTHALF_CONVERSION_ENTRY(X, UInt16)  \
-  ZTHALF_CONVERSION_ENTRY(X, Int16)   \
-  ZTHALF_CONVERSION_ENTRY(X, UInt32)  \
-  ZTHALF_CONVERSION_ENTRY(X, Int32)   \
-  ZTHALF_CONVERSION_ENTRY(X, UInt64)  \
-  ZTHALF_CONVERSION_ENTRY(X, Int64)   \
+#define ZTHALF_CONVERSION_ENTRIES(X) \
+  ZTHALF_CONVERSION_ENTRY(X, Single) \
+  ZTHALF_CONVERSION_ENTRY(X, Double) \
+  ZTHALF_CONVERSION_ENTRY(X, UInt8)  \
+  ZTHALF_CONVERSION_ENTRY(X, Int8)   \
+  ZTHALF_CONVERSION_ENTRY(X, UInt16) \
+  ZTHALF_CONVERSION_ENTRY(X, Int16)  \
+  ZTHALF_CONVERSION_ENTRY(X, UInt32) \
+  ZTHALF_CONVERSION_ENTRY(X, Int32)  \
+  ZTHALF_CONVERSION_ENTRY(X, UInt64) \
+  ZTHALF_CONVERSION_ENTRY(X, Int64)  \
   ZTHALF_CONVERSION_ENTRY(X, Logical)
 
-#define ZTHALF_BITWISE_ENTRIES(X)                                            \
-  X(uminus, uminus, Half, Half, uminus<element::Half>)                       \
-  X(cplxUminus, uminus, CplxHalf, CplxHalf, uminus<element::CplxHalf>)       \
-  X(abs, abs, Half, Half, abs<element::Half>)                                \
-  X(cplxReal, real, CplxHalf, Half, cplxReal<element::Half>)                 \
-  X(cplxImag, imag, CplxHalf, Half, cplxImag<element::Half>)                 \
-  X(cplxConj, conj, CplxHalf, CplxHalf, cplxConj<element::Half>)             \
+#define ZTHALF_BITWISE_ENTRIES(X)                                               \
+  X(uminus, uminus, Half, Half, uminus<element::Half>)                          \
+  X(cplxUminus, uminus, CplxHalf, CplxHalf, uminus<element::CplxHalf>)          \
+  X(abs, abs, Half, Half, abs<element::Half>)                                   \
+  X(cplxReal, real, CplxHalf, Half, cplxReal<element::Half>)                    \
+  X(cplxImag, imag, CplxHalf, Half, cplxImag<element::Half>)                    \
+  X(cplxConj, conj, CplxHalf, CplxHalf, cplxConj<element::Half>)                \
   X(realToComplex, realToComplex, Half, CplxHalf, realToComplex<element::Half>) \
   X(sign, sign, Half, Half, sign<element::Half>)
 
-#define ZTHALF_CLASSIFICATION_ENTRIES(X)                                      \
-  X(isnan, isnan, Half, Logical, isnan<element::Half>)                        \
-  X(cplxIsnan, isnan, CplxHalf, Logical, isnan<element::CplxHalf>)            \
-  X(isinf, isinf, Half, Logical, isinf<element::Half>)                        \
-  X(cplxIsinf, isinf, CplxHalf, Logical, isinf<element::CplxHalf>)            \
-  X(isfinite, isfinite, Half, Logical, isfinite<element::Half>)               \
+#define ZTHALF_CLASSIFICATION_ENTRIES(X)                           \
+  X(isnan, isnan, Half, Logical, isnan<element::Half>)             \
+  X(cplxIsnan, isnan, CplxHalf, Logical, isnan<element::CplxHalf>) \
+  X(isinf, isinf, Half, Logical, isinf<element::Half>)             \
+  X(cplxIsinf, isinf, CplxHalf, Logical, isinf<element::CplxHalf>) \
+  X(isfinite, isfinite, Half, Logical, isfinite<element::Half>)    \
   X(cplxIsfinite, isfinite, CplxHalf, Logical, isfinite<element::CplxHalf>)
 
 #define ZTHALF_SPACING_ENTRIES(X) X(eps, eps, Half, Half, eps<element::Half>)
@@ -137,6 +137,35 @@
 
 // Binary rows with implicit expansion: X(operation, left tag, right tag, output tag). The entry is the operation with
 // the two operand tags; the template instance has all three.
+
+// The pairs of real operands, one of them a half at least.
+#define ZTHALF_REAL_PAIRS(X, op, Out) \
+  X(op, Half, Half, Out)              \
+  X(op, Half, Single, Out)            \
+  X(op, Half, Double, Out)            \
+  X(op, Single, Half, Out)            \
+  X(op, Double, Half, Out)
+
+// The same with a complex operand on either side or on both.
+#define ZTHALF_COMPLEX_PAIRS(X, op)     \
+  X(op, Half, CplxHalf, CplxHalf)       \
+  X(op, Half, CplxSingle, CplxHalf)     \
+  X(op, Half, CplxDouble, CplxHalf)     \
+  X(op, Single, CplxHalf, CplxHalf)     \
+  X(op, Double, CplxHalf, CplxHalf)     \
+  X(op, CplxHalf, Half, CplxHalf)       \
+  X(op, CplxHalf, Single, CplxHalf)     \
+  X(op, CplxHalf, Double, CplxHalf)     \
+  X(op, CplxSingle, Half, CplxHalf)     \
+  X(op, CplxDouble, Half, CplxHalf)     \
+  X(op, CplxHalf, CplxHalf, CplxHalf)   \
+  X(op, CplxHalf, CplxSingle, CplxHalf) \
+  X(op, CplxHalf, CplxDouble, CplxHalf) \
+  X(op, CplxSingle, CplxHalf, CplxHalf) \
+  X(op, CplxDouble, CplxHalf, CplxHalf)
+
+#define ZTHALF_TWENTY_PAIRS(X, op) ZTHALF_REAL_PAIRS(X, op, Half) ZTHALF_COMPLEX_PAIRS(X, op)
+
 #define ZTHALF_PLUS_ENTRIES(X) X(plus, Half, Half, Half)
 
 #define ZTHALF_BINARY_ENTRIES(X) ZTHALF_PLUS_ENTRIES(X)
