@@ -1,6 +1,7 @@
 // Everything the library offers.
 #pragma once
 
+#include "zthalf/float_type.h"
 #include "zthalf/half_ops.h"
 #include "zthalf/half_ptr.h"
 #include "zthalf/half_scalar.h"
