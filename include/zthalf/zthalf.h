@@ -2,6 +2,7 @@
 #pragma once
 
 #include "zthalf/float_type.h"
+#include "zthalf/half_extrema.h"
 #include "zthalf/half_ops.h"
 #include "zthalf/half_ptr.h"
 #include "zthalf/half_scalar.h"

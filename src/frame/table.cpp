@@ -1,4 +1,5 @@
 // The table's variables, filled statically: no code runs to make them.
+#include "zthalf/half_extrema.h"
 #include "zthalf/half_ops.h"
 #include "zthalf/half_ptr.h"
 
@@ -22,6 +23,7 @@ ZTHALF_EARLY_EXIT_ENTRIES(ZTHALF_FILL_EARLY_EXIT)
 ZTHALF_TWO_OUT_ENTRIES(ZTHALF_FILL_TWO_OUT)
 ZTHALF_QUERY_ENTRIES(ZTHALF_FILL_QUERY)
 ZTHALF_BINARY_ENTRIES(ZTHALF_FILL_BINARY)
+ZTHALF_CHOSEN_BINARY_ENTRIES(ZTHALF_FILL_BINARY)
 
 #undef ZTHALF_FILL_UNARY
 #undef ZTHALF_FILL_EARLY_EXIT

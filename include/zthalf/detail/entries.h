@@ -169,3 +169,11 @@
 #define ZTHALF_PLUS_ENTRIES(X) X(plus, Half, Half, Half)
 
 #define ZTHALF_BINARY_ENTRIES(X) ZTHALF_PLUS_ENTRIES(X)
+
+// Binary rows that the table has and the facade has no function for: half_vector::minBinOp and maxBinOp choose among
+// them.
+
+#define ZTHALF_MIN_ENTRIES(X) ZTHALF_TWENTY_PAIRS(X, min) ZTHALF_TWENTY_PAIRS(X, minOmitNaN)
+#define ZTHALF_MAX_ENTRIES(X) ZTHALF_TWENTY_PAIRS(X, max) ZTHALF_TWENTY_PAIRS(X, maxOmitNaN)
+
+#define ZTHALF_CHOSEN_BINARY_ENTRIES(X) ZTHALF_MIN_ENTRIES(X) ZTHALF_MAX_ENTRIES(X)
