@@ -24,6 +24,24 @@ ZTHALF_DECLARE_EXPANDING(minOmitNaN)
 ZTHALF_DECLARE_EXPANDING(maxOmitNaN)
 #undef ZTHALF_DECLARE_EXPANDING
 
+/// The reductions. SrcT and DstT are the element type, AccT the single type of the same kind.
+#define ZTHALF_DECLARE_REDUCTION(op, ending)                                                             \
+  template <class SrcT, class DstT, class AccT>                                                          \
+  ZTHALF_API void op##SimpleReduce##ending(SrcT* src, DstT* dst, unsigned long n);                       \
+  template <class SrcT, class DstT, class AccT>                                                          \
+  ZTHALF_API void op##SimpleReduce##ending(SrcT* src, DstT* dst, double* index, unsigned long n);        \
+  template <class SrcT, class DstT, class AccT>                                                          \
+  ZTHALF_API void op##ReduceFunc##ending(SrcT* src, DstT* dst, unsigned long ndims, unsigned long* dims, \
+                                         bool firstReduced);                                             \
+  template <class SrcT, class DstT, class AccT>                                                          \
+  ZTHALF_API void op##ReduceFunc##ending(SrcT* src, DstT* dst, double* index, unsigned long ndims,       \
+                                         unsigned long* dims, bool firstReduced, bool linear);
+ZTHALF_DECLARE_REDUCTION(min, )
+ZTHALF_DECLARE_REDUCTION(max, )
+ZTHALF_DECLARE_REDUCTION(min, OmitNaN)
+ZTHALF_DECLARE_REDUCTION(max, OmitNaN)
+#undef ZTHALF_DECLARE_REDUCTION
+
 }  // namespace half
 
 /// min and max. What holds for all of them:
@@ -54,5 +72,42 @@ ZTHALF_API void maxBinOp(void* a, void* b, void* c, unsigned long na, unsigned l
                          unsigned long nb, unsigned long ndimsB, unsigned long const* dimsB, unsigned long nc,
                          unsigned long ndimsC, unsigned long const* dimsC, FloatTypeEnum typeA, FloatTypeEnum typeB,
                          bool complexA, bool complexB, bool omitNaN);
+
+/// The smallest or largest element of n contiguous ones, NaN winning; with the index, counted from 1, in *index. dst
+/// and index are one element each. The array must not be empty: src[0] is read whatever n is, and becomes the result of
+/// n = 0, with an index of 0.
+ZTHALF_API void minSimpleReduce(half_t* src, half_t* dst, unsigned long n);
+ZTHALF_API void minSimpleReduce(std::complex<half_t>* src, std::complex<half_t>* dst, unsigned long n);
+ZTHALF_API void maxSimpleReduce(half_t* src, half_t* dst, unsigned long n);
+ZTHALF_API void maxSimpleReduce(std::complex<half_t>* src, std::complex<half_t>* dst, unsigned long n);
+ZTHALF_API void minSimpleReduceWithIndex(half_t* src, half_t* dst, double* index, unsigned long n);
+ZTHALF_API void minSimpleReduceWithIndex(std::complex<half_t>* src, std::complex<half_t>* dst, double* index,
+                                         unsigned long n);
+ZTHALF_API void maxSimpleReduceWithIndex(half_t* src, half_t* dst, double* index, unsigned long n);
+ZTHALF_API void maxSimpleReduceWithIndex(std::complex<half_t>* src, std::complex<half_t>* dst, double* index,
+                                         unsigned long n);
+
+/// The smallest or largest elements of src along dimensions: half_t elements, or std::complex<half_t> where isComplex
+/// says so, in src and dst alike.
+///
+/// dims[0] to dims[ndims - 1] are the sizes in memory order, first one fastest, and kept and reduced dimensions take
+/// turns: neighbours of one kind are given as one. The first dimension is reduced where firstReduced is true, otherwise
+/// it is kept. dst gets one element for each combination of the kept dimensions, the first of them fastest. A single
+/// dimension is reduced whatever firstReduced says. src must not be empty, and dst must not overlap it. "First" and
+/// "last" in the rules above count the elements of one output in memory order.
+///
+/// Up to 1024 outputs are computed on the calling thread, more on several, and a single large array on several too; the
+/// results do not depend on it. Working arrays are allocated: a failure to get them throws std::bad_alloc.
+ZTHALF_API void minUnaryOp(void* src, void* dst, unsigned long ndims, unsigned long* dims, bool firstReduced,
+                           bool omitNaN, bool isComplex);
+ZTHALF_API void maxUnaryOp(void* src, void* dst, unsigned long ndims, unsigned long* dims, bool firstReduced,
+                           bool omitNaN, bool isComplex);
+
+/// The same with the index of each winner, counted from 1: where linear is true its position in src, otherwise its
+/// position among the elements of its output. Of a single dimension the two are the same.
+ZTHALF_API void minUnaryOpWithIndex(void* src, void* dst, double* index, unsigned long ndims, unsigned long* dims,
+                                    bool firstReduced, bool omitNaN, bool isComplex, bool linear);
+ZTHALF_API void maxUnaryOpWithIndex(void* src, void* dst, double* index, unsigned long ndims, unsigned long* dims,
+                                    bool firstReduced, bool omitNaN, bool isComplex, bool linear);
 
 }  // namespace half_vector

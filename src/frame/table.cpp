@@ -17,6 +17,9 @@ namespace element = half::element;
 #define ZTHALF_FILL_BINARY(op, Left, Right, Out)                                    \
   binary_entry<element::Left, element::Right, element::Out>* op##Left##Right##Ptr = \
       &half::op<element::Left, element::Right, element::Out>;
+#define ZTHALF_FILL_EXTREMUM(entry, shape, Element, Accumulator, function) \
+  shape##_entry<element::Element>* entry##Ptr =                            \
+      &half::function<element::Element, element::Element, element::Accumulator>;
 
 ZTHALF_UNARY_ENTRIES(ZTHALF_FILL_UNARY)
 ZTHALF_EARLY_EXIT_ENTRIES(ZTHALF_FILL_EARLY_EXIT)
@@ -24,11 +27,13 @@ ZTHALF_TWO_OUT_ENTRIES(ZTHALF_FILL_TWO_OUT)
 ZTHALF_QUERY_ENTRIES(ZTHALF_FILL_QUERY)
 ZTHALF_BINARY_ENTRIES(ZTHALF_FILL_BINARY)
 ZTHALF_CHOSEN_BINARY_ENTRIES(ZTHALF_FILL_BINARY)
+ZTHALF_EXTREMUM_REDUCTION_ENTRIES(ZTHALF_FILL_EXTREMUM)
 
 #undef ZTHALF_FILL_UNARY
 #undef ZTHALF_FILL_EARLY_EXIT
 #undef ZTHALF_FILL_TWO_OUT
 #undef ZTHALF_FILL_QUERY
 #undef ZTHALF_FILL_BINARY
+#undef ZTHALF_FILL_EXTREMUM
 
 }  // namespace half_ptr

@@ -1,6 +1,7 @@
 // All entries of the table as data, read from the entry list.
 #pragma once
 
+#include "zthalf/half_extrema.h"
 #include "zthalf/half_ops.h"
 #include "zthalf/half_ptr.h"
 #include "zthalf/half_vector.h"
@@ -24,17 +25,31 @@ namespace facade_element = half_vector::element;
         static_cast<half_ptr::binary_entry<facade_element::Left, facade_element::Right, facade_element::Out>*>(   \
             &half_vector::op));
 
-// visit(name, entry, implementation, facade function) for every entry, where entry is the table's own variable.
+#define ZTHALF_VISIT_CHOSEN(op, Left, Right, Out)                                                                 \
+  visit(#op #Left #Right, half_ptr::op##Left##Right##Ptr, &half::op<element::Left, element::Right, element::Out>, \
+        nullptr);
+#define ZTHALF_VISIT_EXTREMUM(entry, shape, Element, Accumulator, function)             \
+  visit(#entry, half_ptr::entry##Ptr,                                                   \
+        static_cast<half_ptr::shape##_entry<element::Element>*>(                        \
+            &half::function<element::Element, element::Element, element::Accumulator>), \
+        nullptr);
+
+// visit(name, entry, implementation, facade function) for every entry, where entry is the table's own variable. The
+// facade function is null where the entry is one of several that a function chooses among.
 template <class Visit>
 void forEachEntry(Visit visit) {
   ZTHALF_UNARY_ENTRIES(ZTHALF_VISIT_UNARY)
   ZTHALF_QUERY_ENTRIES(ZTHALF_VISIT_QUERY)
   ZTHALF_BINARY_ENTRIES(ZTHALF_VISIT_BINARY)
+  ZTHALF_CHOSEN_BINARY_ENTRIES(ZTHALF_VISIT_CHOSEN)
+  ZTHALF_EXTREMUM_REDUCTION_ENTRIES(ZTHALF_VISIT_EXTREMUM)
 }
 
 #undef ZTHALF_VISIT_UNARY
 #undef ZTHALF_VISIT_QUERY
 #undef ZTHALF_VISIT_BINARY
+#undef ZTHALF_VISIT_CHOSEN
+#undef ZTHALF_VISIT_EXTREMUM
 
 }  // namespace table_rows
 

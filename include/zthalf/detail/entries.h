@@ -177,3 +177,24 @@
 #define ZTHALF_MAX_ENTRIES(X) ZTHALF_TWENTY_PAIRS(X, max) ZTHALF_TWENTY_PAIRS(X, maxOmitNaN)
 
 #define ZTHALF_CHOSEN_BINARY_ENTRIES(X) ZTHALF_MIN_ENTRIES(X) ZTHALF_MAX_ENTRIES(X)
+
+// Reductions of min and max: X(entry, shape, element tag, accumulator tag, template in namespace half). The shape is an
+// alias of entry_shapes.h without its ending.
+#define ZTHALF_EXTREMUM_REDUCTIONS(X, prefix, op, Element, Accumulator)                                          \
+  X(prefix##SimpleReduce, whole_extremum, Element, Accumulator, op##SimpleReduce)                                \
+  X(prefix##SimpleReduceOmitNaN, whole_extremum, Element, Accumulator, op##SimpleReduceOmitNaN)                  \
+  X(prefix##SimpleReduceWithIndex, indexed_whole_extremum, Element, Accumulator, op##SimpleReduce)               \
+  X(prefix##SimpleReduceWithIndexOmitNaN, indexed_whole_extremum, Element, Accumulator, op##SimpleReduceOmitNaN) \
+  X(prefix##Reduce, extremum, Element, Accumulator, op##ReduceFunc)                                              \
+  X(prefix##ReduceOmitNaN, extremum, Element, Accumulator, op##ReduceFuncOmitNaN)                                \
+  X(prefix##ReduceWithIndex, indexed_extremum, Element, Accumulator, op##ReduceFunc)                             \
+  X(prefix##ReduceWithIndexOmitNaN, indexed_extremum, Element, Accumulator, op##ReduceFuncOmitNaN)
+
+#define ZTHALF_MIN_REDUCTION_ENTRIES(X)                 \
+  ZTHALF_EXTREMUM_REDUCTIONS(X, min, min, Half, Single) \
+  ZTHALF_EXTREMUM_REDUCTIONS(X, minCplx, min, CplxHalf, CplxSingle)
+#define ZTHALF_MAX_REDUCTION_ENTRIES(X)                 \
+  ZTHALF_EXTREMUM_REDUCTIONS(X, max, max, Half, Single) \
+  ZTHALF_EXTREMUM_REDUCTIONS(X, maxCplx, max, CplxHalf, CplxSingle)
+
+#define ZTHALF_EXTREMUM_REDUCTION_ENTRIES(X) ZTHALF_MIN_REDUCTION_ENTRIES(X) ZTHALF_MAX_REDUCTION_ENTRIES(X)

@@ -1,0 +1,100 @@
+// Extrema of complex halves as folds. Their order is intricate, and is not relied on to give the same winner by any
+// other order of steps: each chain, each join and each beginning is the tree's.
+// Internal: promises nothing to users of the library.
+#pragma once
+
+#include "reduce/dimensional_forms.h"
+#include "reduce/extremum_position.h"
+#include "reduce/held_complex.h"
+
+namespace half_utils {
+
+// A chain's or a tree's winner with its index on the run, from 1. Where nothing has replaced what a chain began with,
+// the index is that of the chain's own first element: no join takes it, since the value ties with the left one or
+// loses.
+template <class Kind>
+struct complexWinner {
+  heldComplex<Kind> held;
+  unsigned long index;
+  unsigned long combination;
+  cplxHalf const* origin;
+
+  extremumStanding<cplxHalf> standing() const { return {held.value(), origin, combination, index - 1}; }
+};
+
+template <class Kind>
+struct complexExtremumFold {
+  using source = cplxHalf;
+  using accumulator = complexWinner<Kind>;
+
+  static accumulator initial(cplxHalf const* tree) { return {heldComplex<Kind>(*tree), 0, 0, tree}; }
+  static accumulator start(cplxHalf const* first) { return initial(first); }
+
+  static void leaves(leafSpan<cplxHalf> const* leaves, unsigned count, accumulator* results) {
+    const auto squaredLengths = squaredLengthsInUse();
+    float squares[leafLimit];
+    accumulator beginning = initial(leaves[0].tree);
+    for (unsigned l = 0; l < count; ++l) {
+      auto const& leaf = leaves[l];
+      if (leaf.tree != beginning.origin) beginning = initial(leaf.tree);
+      accumulator chain = beginning;
+      chain.index = leaf.begin + 1;
+      squaredLengths(leaf.tree + leaf.begin, leaf.length(), squares);
+      for (unsigned long i = leaf.begin; i < leaf.end && !chain.held.isSettled(); ++i) {
+        if (!chain.held.isWorthAsking(squares[i - leaf.begin])) continue;
+        if (chain.held.takeIfAhead(leaf.tree[i])) chain.index = i + 1;
+      }
+      results[l] = chain;
+    }
+  }
+
+  static accumulator join(accumulator left, accumulator right) {
+    if (left.held.takeIfAhead(right.held)) left.index = right.index;
+    return left;
+  }
+
+  // The first tree's winner is the total; from then on it is a chain of winners.
+  static accumulator finish(accumulator total, accumulator partial, reducedPosition at) {
+    if (at.combination == 0) return partial;
+    if (total.held.takeIfAhead(partial.held)) {
+      total.index = partial.index;
+      total.combination = at.combination;
+    }
+    return total;
+  }
+};
+
+template <class Kind>
+class complexExtremumRows {
+ public:
+  using source = cplxHalf;
+  static constexpr unsigned long widest = 256;
+
+  complexExtremumRows(cplxHalf const* first, unsigned long length) : first_(first) {
+    for (unsigned long j = 0; j < length; ++j) {
+      held_[j] = heldComplex<Kind>(first[j]);
+      combinations_[j] = 0;
+    }
+  }
+
+  void add(cplxHalf const* elements, unsigned long length, reducedPosition at) {
+    float squares[widest];
+    squaredLengths_(elements, length, squares);
+    for (unsigned long j = 0; j < length; ++j) {
+      if (!held_[j].isWorthAsking(squares[j]) || held_[j].isSettled()) continue;
+      if (held_[j].takeIfAhead(elements[j])) combinations_[j] = at.combination;
+    }
+  }
+
+  extremumStanding<cplxHalf> result(unsigned long j) const {
+    return {held_[j].value(), first_ + j, combinations_[j], 0};
+  }
+
+ private:
+  cplxHalf const* first_;
+  heldComplex<Kind> held_[widest];
+  unsigned long combinations_[widest];
+  void (*squaredLengths_)(cplxHalf const*, unsigned long, float*) = squaredLengthsInUse();
+};
+
+}  // namespace half_utils
