@@ -1,5 +1,5 @@
-// Extrema of complex halves as folds. Their order is intricate, and is not relied on to give the same winner by any
-// other order of steps: each chain, each join and each beginning is the tree's.
+// Extrema of complex halves as folds. Each chain, each join and each beginning is the tree's: with another order of
+// steps another element could win, since (-1, -0) and (-1, +0) are equal and have the smallest and the largest angle.
 // Internal: promises nothing to users of the library.
 #pragma once
 
@@ -53,14 +53,28 @@ struct complexExtremumFold {
     return left;
   }
 
-  // The first tree's winner is the total; from then on it is a chain of winners.
+  // With an index the first tree's winner is where the chain of winners begins.
   static accumulator finish(accumulator total, accumulator partial, reducedPosition at) {
-    if (at.combination == 0) return partial;
+    return at.combination == 0 ? partial : finishedByAhead(total, partial, at);
+  }
+
+ protected:
+  static accumulator finishedByAhead(accumulator total, accumulator partial, reducedPosition at) {
     if (total.held.takeIfAhead(partial.held)) {
       total.index = partial.index;
       total.combination = at.combination;
     }
     return total;
+  }
+};
+
+// Without an index the chain begins with the first element, and the first tree's winner has to get ahead of that.
+template <class Kind>
+struct complexExtremumValueFold : complexExtremumFold<Kind> {
+  using accumulator = complexWinner<Kind>;
+
+  static accumulator finish(accumulator total, accumulator partial, reducedPosition at) {
+    return complexExtremumFold<Kind>::finishedByAhead(total, partial, at);
   }
 };
 

@@ -32,36 +32,41 @@ indexedElement<cplxHalf> extremumOfAll(cplxHalf const* src, unsigned long n) {
   return {asResultElement(found.held.value()), static_cast<double>(found.index)};
 }
 
+// The value alone or with its index. Of complex columns the two need not be the same element.
+enum class wanted { value, indexedValue };
+
 // write(output, standing) once for each output.
-template <class Kind, class Write>
+template <class Kind, wanted, class Write>
 void forEachExtremum(fp16binary_t const* src, alternatingShape const& shape, bool firstReduced, Write write) {
   if (firstReduced) return realExtremaOfColumns<Kind>(src, shape, write);
   reduceRows<realExtremumRows<Kind>>(src, shape, write);
 }
 
-template <class Kind, class Write>
+template <class Kind, wanted What, class Write>
 void forEachExtremum(cplxHalf const* src, alternatingShape const& shape, bool firstReduced, Write write) {
   if (!firstReduced) return reduceRows<complexExtremumRows<Kind>>(src, shape, write);
-  reduceColumns<complexExtremumFold<Kind>>(
+  using fold = std::conditional_t<What == wanted::value, complexExtremumValueFold<Kind>, complexExtremumFold<Kind>>;
+  reduceColumns<fold>(
       src, shape, [write](unsigned long output, complexWinner<Kind> const& found) { write(output, found.standing()); });
 }
 
 template <class Kind, class T>
 void extremaAlong(T* src, T* dst, unsigned long ndims, unsigned long const* dims, bool firstReduced) {
   const alternatingShape shape(ndims, dims, firstReduced);
-  forEachExtremum<Kind>(src, shape, firstReduced, [dst](unsigned long output, extremumStanding<T> const& found) {
-    dst[output] = asResultElement(found.value);
-  });
+  forEachExtremum<Kind, wanted::value>(
+      src, shape, firstReduced,
+      [dst](unsigned long output, extremumStanding<T> const& found) { dst[output] = asResultElement(found.value); });
 }
 
 template <class Kind, class T>
 void extremaAlong(T* src, T* dst, double* index, unsigned long ndims, unsigned long const* dims, bool firstReduced,
                   bool linear) {
   const alternatingShape shape(ndims, dims, firstReduced);
-  forEachExtremum<Kind>(src, shape, firstReduced, [&](unsigned long output, extremumStanding<T> const& found) {
-    dst[output] = asResultElement(found.value);
-    index[output] = indexOf(found, static_cast<T const*>(src), shape, linear);
-  });
+  forEachExtremum<Kind, wanted::indexedValue>(
+      src, shape, firstReduced, [&](unsigned long output, extremumStanding<T> const& found) {
+        dst[output] = asResultElement(found.value);
+        index[output] = indexOf(found, static_cast<T const*>(src), shape, linear);
+      });
 }
 
 }  // namespace half_utils
