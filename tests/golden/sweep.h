@@ -199,4 +199,76 @@ void sweepScalar(std::string_view name, Function f) {
   hash.print(name);
 }
 
+// The source of the reductions: the sweep, and behind it notable values again, so that a whole array has ties.
+template <class T>
+std::vector<storage<T>> reductionSource() {
+  auto src = inputs<T>::sweep();
+  const auto notable = gridOf<T>();
+  src.insert(src.end(), notable.begin(), notable.end());
+  return src;
+}
+
+// A whole array to one element: every prefix up to some leaves of the tree, then larger pieces from several places on.
+template <class In, class Out, class... Index, class Reduce>
+void sweepWhole(std::string_view name, Reduce reduce) {
+  auto src = reductionSource<In>();
+  resultHash hash;
+  const auto call = [&](std::size_t first, unsigned long n) {
+    storage<Out> result{};
+    std::tuple<Index...> index{};
+    std::apply([&](auto&... i) { reduce(as<In>(src.data() + first), as<Out>(&result), &i..., n); }, index);
+    hash.add(result);
+    std::apply([&](auto... i) { (hash.add(i), ...); }, index);
+  };
+  for (unsigned long n = 1; n <= 600; ++n) call(n * 97 % 1000, n);
+  for (std::size_t first = 0; first + 20000 <= src.size(); first += 4999) call(first, 1000 + first % 19000);
+  call(0, src.size());
+  hash.print(name);
+}
+
+// Along dimensions, in both forms.
+template <class In, class Out, class... Index, class Reduce>
+void sweepAlong(std::string_view name, Reduce reduce) {
+  auto src = reductionSource<In>();
+  resultHash hash;
+  for (std::vector<unsigned long> dims : {std::vector<unsigned long>{300, 200}, {7, 5, 11, 3, 13}, {2, 1100, 3, 4}}) {
+    for (const bool firstReduced : {true, false}) {
+      std::size_t outputs = 1;
+      for (std::size_t d = firstReduced ? 1 : 0; d < dims.size(); d += 2) outputs *= dims[d];
+      std::vector<storage<Out>> dst(outputs);
+      std::tuple<std::vector<Index>...> index{std::vector<Index>(outputs)...};
+      std::apply(
+          [&](auto&... i) {
+            reduce(as<In>(src.data()), as<Out>(dst.data()), i.data()..., dims.size(), dims.data(), firstReduced);
+          },
+          index);
+      hash.add(dst.data(), dst.size());
+      std::apply([&](auto&... i) { (hash.add(i.data(), i.size()), ...); }, index);
+    }
+  }
+  hash.print(name);
+}
+
+template <class In, class Out>
+void sweepReduction(std::string_view name, void (*entry)(In*, Out*, unsigned long)) {
+  sweepWhole<In, Out>(name, entry);
+}
+template <class In, class Out>
+void sweepReduction(std::string_view name, void (*entry)(In*, Out*, double*, unsigned long)) {
+  sweepWhole<In, Out, double>(name, entry);
+}
+template <class In, class Out>
+void sweepReduction(std::string_view name, void (*entry)(In*, Out*, unsigned long, unsigned long*, bool)) {
+  sweepAlong<In, Out>(name, entry);
+}
+// The index along the reduced dimensions and in the whole array.
+template <class In, class Out>
+void sweepReduction(std::string_view name,
+                    void (*entry)(In*, Out*, double*, unsigned long, unsigned long*, bool, bool)) {
+  bool linear = false;
+  const auto reduce = [&](In* src, Out* dst, double* index, unsigned long ndims, unsigned long* dims,
+                          bool firstReduced) { entry(src, dst, index, ndims, dims, firstReduced, linear = !linear); };
+  sweepAlong<In, Out, double>(name, reduce);
+}
+
 }  // namespace zthalf::golden
