@@ -22,17 +22,22 @@ namespace half_ptr {
 #define ZTHALF_DECLARE_BINARY(op, Left, Right, Out) \
   extern ZTHALF_API binary_entry<half::element::Left, half::element::Right, half::element::Out>* op##Left##Right##Ptr;
 
+#define ZTHALF_DECLARE_REMAINDER(op, Left, Right, Out) \
+  extern ZTHALF_API binary_entry<half::storage::Left, half::storage::Right, half::storage::Out>* op##Left##Right##Ptr;
+
 ZTHALF_UNARY_ENTRIES(ZTHALF_DECLARE_UNARY)
 ZTHALF_EARLY_EXIT_ENTRIES(ZTHALF_DECLARE_EARLY_EXIT)
 ZTHALF_TWO_OUT_ENTRIES(ZTHALF_DECLARE_TWO_OUT)
 ZTHALF_QUERY_ENTRIES(ZTHALF_DECLARE_QUERY)
 ZTHALF_BINARY_ENTRIES(ZTHALF_DECLARE_BINARY)
+ZTHALF_REMAINDER_ENTRIES(ZTHALF_DECLARE_REMAINDER)
 
 #undef ZTHALF_DECLARE_UNARY
 #undef ZTHALF_DECLARE_EARLY_EXIT
 #undef ZTHALF_DECLARE_TWO_OUT
 #undef ZTHALF_DECLARE_QUERY
 #undef ZTHALF_DECLARE_BINARY
+#undef ZTHALF_DECLARE_REMAINDER
 
 /// 0 when the library is loaded, 1 from the first VLInitialize_half or CPU_Dispatch on. No operation reads it.
 extern ZTHALF_API unsigned char initialized;

@@ -16,17 +16,22 @@ namespace element = half::element;
 #define ZTHALF_FILL_BINARY(op, Left, Right, Out)                                    \
   binary_entry<element::Left, element::Right, element::Out>* op##Left##Right##Ptr = \
       &half::op<element::Left, element::Right, element::Out>;
+#define ZTHALF_FILL_REMAINDER(op, Left, Right, Out)                                                   \
+  binary_entry<half::storage::Left, half::storage::Right, half::storage::Out>* op##Left##Right##Ptr = \
+      &half::op<half::storage::Left, half::storage::Right>;
 
 ZTHALF_UNARY_ENTRIES(ZTHALF_FILL_UNARY)
 ZTHALF_EARLY_EXIT_ENTRIES(ZTHALF_FILL_EARLY_EXIT)
 ZTHALF_TWO_OUT_ENTRIES(ZTHALF_FILL_TWO_OUT)
 ZTHALF_QUERY_ENTRIES(ZTHALF_FILL_QUERY)
 ZTHALF_BINARY_ENTRIES(ZTHALF_FILL_BINARY)
+ZTHALF_REMAINDER_ENTRIES(ZTHALF_FILL_REMAINDER)
 
 #undef ZTHALF_FILL_UNARY
 #undef ZTHALF_FILL_EARLY_EXIT
 #undef ZTHALF_FILL_TWO_OUT
 #undef ZTHALF_FILL_QUERY
 #undef ZTHALF_FILL_BINARY
+#undef ZTHALF_FILL_REMAINDER
 
 }  // namespace half_ptr
