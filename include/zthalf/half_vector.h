@@ -50,21 +50,23 @@ namespace half_vector {
 /// everything but the two zeros, a NaN included.
 ZTHALF_CONVERSION_ENTRIES(ZTHALF_DECLARE_UNARY)
 
-/// Bit work on the patterns; NaNs keep their payload.
+/// Sign, magnitude and parts: bit work on the patterns but for abs and sign of complex elements; NaNs keep their
+/// payload in bit work.
 ///
 /// uminus (real or complex): the sign bit flipped, NaN included; the imaginary part of a complex result is never -0.
-/// abs (real): the sign bit cleared.
-/// real, imag: the parts of a complex array.
-/// conj: the imaginary part negated, but never -0.
-/// realToComplex: the source as real part, an imaginary part of +0.
-/// sign (real): -1, +0 or +1; a zero of either sign gives +0, a NaN gives itself.
+/// abs: the sign bit cleared; of a complex element sqrt(re^2 + im^2), the root of the exact sum rounded once, where a
+/// NaN keeps its sign, the real part's before the imaginary part's, also beside an infinity. real, imag: the parts of a
+/// complex array. conj: the imaginary part negated, but never -0. realToComplex: the source as real part, an imaginary
+/// part of +0. sign: -1, +0 or +1; a zero of either sign gives +0, a NaN gives itself. Of a complex element z / |z|,
+/// each part rounded once; with an imaginary part of zero the sign of the real part, a NaN made quiet, and +0.
 ZTHALF_BITWISE_ENTRIES(ZTHALF_DECLARE_UNARY)
 
 /// isnan, isinf (real or complex): whether the element, or either of its parts, is a NaN or an infinity.
 /// isfinite: whether the element, or both of its parts, are neither.
 ZTHALF_CLASSIFICATION_ENTRIES(ZTHALF_DECLARE_UNARY)
 
-/// eps (real): the distance from |x| to the next larger half, at least 2^-24; 0x7E00 for infinities and NaNs.
+/// eps: the distance from |x| to the next larger half, at least 2^-24; 0x7E00 for infinities and NaNs.
+/// Of a complex element |x| is its magnitude as abs gives it.
 ZTHALF_SPACING_ENTRIES(ZTHALF_DECLARE_UNARY)
 
 /// ceil, floor, fix (towards zero), round (to nearest, ties away from zero). A zero result keeps the sign of the
@@ -113,7 +115,26 @@ ZTHALF_TWO_OUT_ENTRIES(ZTHALF_DECLARE_TWO_OUT)
 /// are scanned on several threads.
 ZTHALF_QUERY_ENTRIES(ZTHALF_DECLARE_QUERY)
 
-/// plus: the sum of two arrays with implicit expansion, for each element as half_t's operator of the same name.
+/// plus, minus, times, rdivide (a / b), ldivide (b / a), hypot, atan2 (the ordinate first), mod, rem, and realToComplex
+/// of a real and an imaginary part: two arrays, element by element with implicit expansion.
+///
+/// Operands: halves, floats or doubles, real or complex, one of them made of halves at least; atan2, mod, rem and
+/// realToComplex take real ones only. The result is half, complex half if an operand is complex. Each operation runs in
+/// the wider of the two part types, at least in float, on operands taken there exactly, and its result is rounded to
+/// half once. (A complex product beside floats, and hypot beside a float, run in double.) Two halves give what half_t's
+/// operator or the half_scalar function of that name gives; two complex halves what the operator on
+/// std::complex<half_t> gives.
+///
+/// Zero parts: a zero part of a complex factor takes no part in a product, and a zero part of a dividend none in a
+/// division by zero, so infinities leave no NaN there. A sum with a real operand adds +0 to the imaginary part; a
+/// difference keeps the left operand's imaginary part as it is, and takes a right one's from +0. A real divided by an
+/// imaginary number has a zero real part with the sign of the divisor. hypot of a complex operand takes its magnitude,
+/// and then has an imaginary part of +0.
+///
+/// NaN: a result's NaN is 0x7E00 with the sign of the operand that it comes from, positive where the operation itself
+/// is invalid. With two NaN operands a signalling one goes before a quiet one, then the left one before the right one;
+/// sums and products of two halves go by the rule of half_t's operators. atan2 and mod give 0xFE00, as their scalar
+/// functions tell.
 ///
 /// Each array is described by its number of elements, its number of dimensions and their sizes, first dimension fastest
 /// in memory. In each dimension the sizes of the two operands agree or one of them is 1, a missing dimension counting
@@ -123,6 +144,7 @@ ZTHALF_QUERY_ENTRIES(ZTHALF_DECLARE_QUERY)
 /// be one of the operands. In the general case it must not overlap them, and small working arrays are allocated: a
 /// failure to get them throws std::bad_alloc, or std::length_error for an absurd number of dimensions.
 ZTHALF_BINARY_ENTRIES(ZTHALF_DECLARE_BINARY)
+ZTHALF_REMAINDER_ENTRIES(ZTHALF_DECLARE_BINARY)
 
 #undef ZTHALF_DECLARE_UNARY
 #undef ZTHALF_DECLARE_EARLY_EXIT

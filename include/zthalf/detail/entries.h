@@ -31,11 +31,13 @@
   X(uminus, uminus, Half, Half, uminus<element::Half>)                          \
   X(cplxUminus, uminus, CplxHalf, CplxHalf, uminus<element::CplxHalf>)          \
   X(abs, abs, Half, Half, abs<element::Half>)                                   \
+  X(cplxAbs, abs, CplxHalf, Half, abs<element::CplxHalf>)                       \
   X(cplxReal, real, CplxHalf, Half, cplxReal<element::Half>)                    \
   X(cplxImag, imag, CplxHalf, Half, cplxImag<element::Half>)                    \
   X(cplxConj, conj, CplxHalf, CplxHalf, cplxConj<element::Half>)                \
   X(realToComplex, realToComplex, Half, CplxHalf, realToComplex<element::Half>) \
-  X(sign, sign, Half, Half, sign<element::Half>)
+  X(sign, sign, Half, Half, sign<element::Half>)                                \
+  X(cplxSign, sign, CplxHalf, CplxHalf, sign<element::CplxHalf>)
 
 #define ZTHALF_CLASSIFICATION_ENTRIES(X)                           \
   X(isnan, isnan, Half, Logical, isnan<element::Half>)             \
@@ -45,7 +47,9 @@
   X(isfinite, isfinite, Half, Logical, isfinite<element::Half>)    \
   X(cplxIsfinite, isfinite, CplxHalf, Logical, isfinite<element::CplxHalf>)
 
-#define ZTHALF_SPACING_ENTRIES(X) X(eps, eps, Half, Half, eps<element::Half>)
+#define ZTHALF_SPACING_ENTRIES(X)             \
+  X(eps, eps, Half, Half, eps<element::Half>) \
+  X(cplxEps, eps, CplxHalf, Half, eps<element::CplxHalf>)
 
 // Plain functions, not templates.
 #define ZTHALF_ROUNDING_ENTRIES(X)   \
@@ -166,9 +170,28 @@
 
 #define ZTHALF_TWENTY_PAIRS(X, op) ZTHALF_REAL_PAIRS(X, op, Half) ZTHALF_COMPLEX_PAIRS(X, op)
 
-#define ZTHALF_PLUS_ENTRIES(X) X(plus, Half, Half, Half)
+#define ZTHALF_ARITHMETIC_ENTRIES(X) \
+  ZTHALF_TWENTY_PAIRS(X, plus)       \
+  ZTHALF_TWENTY_PAIRS(X, minus)      \
+  ZTHALF_TWENTY_PAIRS(X, times)      \
+  ZTHALF_TWENTY_PAIRS(X, rdivide)    \
+  ZTHALF_TWENTY_PAIRS(X, ldivide)
 
-#define ZTHALF_BINARY_ENTRIES(X) ZTHALF_PLUS_ENTRIES(X)
+#define ZTHALF_HYPOT_ENTRIES(X) ZTHALF_TWENTY_PAIRS(X, hypot)
+#define ZTHALF_ANGLE_ENTRIES(X) ZTHALF_REAL_PAIRS(X, atan2, Half)
+#define ZTHALF_PAIRING_ENTRIES(X) ZTHALF_REAL_PAIRS(X, realToComplex, CplxHalf)
+
+#define ZTHALF_BINARY_ENTRIES(X) \
+  ZTHALF_ARITHMETIC_ENTRIES(X)   \
+  ZTHALF_HYPOT_ENTRIES(X)        \
+  ZTHALF_ANGLE_ENTRIES(X)        \
+  ZTHALF_PAIRING_ENTRIES(X)
+
+// Remainder rows: as binary rows, but the template instance has the two operands' types only, and a half is a bare
+// pattern there.
+#define ZTHALF_REMAINDER_ENTRIES(X) \
+  ZTHALF_REAL_PAIRS(X, mod, Half)   \
+  ZTHALF_REAL_PAIRS(X, rem, Half)
 
 // Reductions: X(entry, facade name, template in namespace half, input tag, output tag, accumulator tag). Only the
 // simple forms that keep NaNs have a facade of their own; the selectors of half_vector reach all entries.
