@@ -27,3 +27,13 @@ target_compile_options(zthalf_build INTERFACE
   -fstack-protector-strong
   $<$<CONFIG:Release>:-U_FORTIFY_SOURCE> $<$<CONFIG:Release>:-D_FORTIFY_SOURCE=2>
 )
+
+# The thread sanitizer knows nothing of what the system's oneTBB does inside, since that is built without it. The
+# sources in which oneTBB's templates are instantiated are left uninstrumented too, and tell it the order of their tasks
+# (src/frame/task_order.h); the loops' bodies are watched.
+function(zthalf_instantiates_tasks)
+  if(CMAKE_CXX_FLAGS MATCHES "-fsanitize=thread")
+    set_source_files_properties(${ARGN} PROPERTIES
+      COMPILE_OPTIONS -fno-sanitize=thread COMPILE_DEFINITIONS ZTHALF_WATCHES_THREADS)
+  endif()
+endfunction()

@@ -117,6 +117,23 @@ ZTHALF_API bool isWholeArrayFinite(T* src, unsigned long n);
                      unsigned long nb, unsigned long ndimsB, unsigned long const* dimsB, unsigned long nc,          \
                      unsigned long ndimsC, unsigned long const* dimsC);
 ZTHALF_DECLARE_EXPANDING(plus)
+ZTHALF_DECLARE_EXPANDING(minus)
+ZTHALF_DECLARE_EXPANDING(times)
+ZTHALF_DECLARE_EXPANDING(rdivide)
+ZTHALF_DECLARE_EXPANDING(ldivide)
+ZTHALF_DECLARE_EXPANDING(hypot)
+ZTHALF_DECLARE_EXPANDING(atan2)
+ZTHALF_DECLARE_EXPANDING(realToComplex)
 #undef ZTHALF_DECLARE_EXPANDING
+
+/// On bare patterns: an unsigned short operand is a half, and so is every result.
+template <class Left, class Right>
+ZTHALF_API void mod(Left* a, Right* b, unsigned short* c, unsigned long na, unsigned long ndimsA,
+                    unsigned long const* dimsA, unsigned long nb, unsigned long ndimsB, unsigned long const* dimsB,
+                    unsigned long nc, unsigned long ndimsC, unsigned long const* dimsC);
+template <class Left, class Right>
+ZTHALF_API void rem(Left* a, Right* b, unsigned short* c, unsigned long na, unsigned long ndimsA,
+                    unsigned long const* dimsA, unsigned long nb, unsigned long ndimsB, unsigned long const* dimsB,
+                    unsigned long nc, unsigned long ndimsC, unsigned long const* dimsC);
 
 }  // namespace half

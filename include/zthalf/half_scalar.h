@@ -90,22 +90,22 @@ ZTHALF_API half_t atanh(half_t x);
 
 /// The remainder of x by y with the sign of x (rem) or of y (mod). The remainder itself is exact.
 ///
-/// When y has a fraction, x is taken for a multiple of y if x/y lies within half a unit in the last place, as a half, of
-/// an integer, and the remainder is a zero then: mod(1.0, 0.1) is 0. From a quotient of 1024 on that is always so. For
-/// an integral y there is no tolerance.
+/// When y has a fraction, x is taken for a multiple of y if x/y lies within half a unit in the last place, as a half,
+/// of an integer, and the remainder is a zero then: mod(1.0, 0.1) is 0. From a quotient of 1024 on that is always so.
+/// For an integral y there is no tolerance.
 ///
 /// A zero result has the sign of x (rem) or of y (mod). By an infinity: rem is x; mod is x if the signs agree or x is a
 /// zero, which takes the sign of y, and otherwise y. By zero: rem is the NaN 0x7E00 with the sign of x; mod is x, and
-/// mod of two zeros is y. For an infinite x: the NaN 0x7E00 with the sign of x (rem) or of y (mod), but mod by zero is x.
-/// Where the signs differ and |x| is below |y|, mod is x + y, rounded; all other results are exact.
-/// A NaN x comes back unchanged. With a NaN y rem is its payload with the sign of x, and mod is y unchanged, but mod of
-/// a NaN or by zero is decided before.
+/// mod of two zeros is y. For an infinite x: the NaN 0x7E00 with the sign of x (rem) or of y (mod), but mod by zero is
+/// x. Where the signs differ and |x| is below |y|, mod is x + y, rounded; all other results are exact. A NaN x comes
+/// back unchanged. With a NaN y rem is its payload with the sign of x, and mod is y unchanged, but mod of a NaN or by
+/// zero is decided before.
 ZTHALF_API half_t mod(half_t x, half_t y);
 ZTHALF_API half_t rem(half_t x, half_t y);
 
-/// sqrt(x^2 + y^2). Signs are not read, those of NaNs neither: with a NaN the result is 0x7E00, also beside an infinity.
-/// From 65520 on the result is infinity. Two halves, and a half and a float, give the correctly rounded half wherever
-/// that is a normal number; a half and a double round the root to double before.
+/// sqrt(x^2 + y^2). Signs are not read, those of NaNs neither: with a NaN the result is 0x7E00, also beside an
+/// infinity. From 65520 on the result is infinity. Two halves, and a half and a float, give the correctly rounded half
+/// wherever that is a normal number; a half and a double round the root to double before.
 ZTHALF_API half_t hypot(half_t x, half_t y);
 ZTHALF_API half_t hypot(half_t x, float y);
 ZTHALF_API half_t hypot(half_t x, double y);
@@ -124,8 +124,8 @@ ZTHALF_API half_t atan2(double y, half_t x);
 /// x to the power y. Computed in float, in double beside a double, and rounded once; the powers 2, 1, 0, -1 and 0.5
 /// are a square, x itself, 1, a reciprocal and a square root.
 ///
-/// A NaN gives 0xFE00, and so do NaN to the power 0 and 1 to the power NaN; only the powers 1, 2, -1 and 0.5 of a NaN keep
-/// its sign. A finite negative x to a power that is not an integer is 0xFE00, but 0x7E00 to the power 0.5; so is
+/// A NaN gives 0xFE00, and so do NaN to the power 0 and 1 to the power NaN; only the powers 1, 2, -1 and 0.5 of a NaN
+/// keep its sign. A finite negative x to a power that is not an integer is 0xFE00, but 0x7E00 to the power 0.5; so is
 /// -infinity to a positive such power, while to a negative one it is +0. -0 to a power that is not an integer is +0 or
 /// +infinity. 1 and -1 to an infinite power are 1. Odd integer powers keep the sign of x.
 ZTHALF_API half_t power(half_t x, half_t y);
@@ -134,18 +134,19 @@ ZTHALF_API half_t power(half_t x, double y);
 ZTHALF_API half_t power(float x, half_t y);
 ZTHALF_API half_t power(double x, half_t y);
 
-/// x times 2^n, with n the integer part of y towards zero: pow2(x, 0.9) is x. Rounded once. Zeros and infinities stay as
-/// they are for every n, a NaN x gives 0x7E00 with its sign, and a NaN y 0x7E00 for every x. Beside a float, a zero or
-/// subnormal float result of the scaling is what is rounded.
+/// x times 2^n, with n the integer part of y towards zero: pow2(x, 0.9) is x. Rounded once. Zeros and infinities stay
+/// as they are for every n, a NaN x gives 0x7E00 with its sign, and a NaN y 0x7E00 for every x. Beside a float, a zero
+/// or subnormal float result of the scaling is what is rounded.
 ZTHALF_API half_t pow2(half_t x, half_t y);
 ZTHALF_API half_t pow2(half_t x, float y);
 ZTHALF_API half_t pow2(half_t x, double y);
 ZTHALF_API half_t pow2(float x, half_t y);
 ZTHALF_API half_t pow2(double x, half_t y);
 
-/// x * y + z in one effective rounding: the correctly rounded half wherever that is a normal number. An exact zero is +0
-/// unless both addends are -0. NaN: the product goes by the rules of half_t's operators with x as its first operand, and
-/// the sum likewise with the product as its first operand; infinity times zero and infinity minus infinity give 0x7E00.
+/// x * y + z in one effective rounding: the correctly rounded half wherever that is a normal number. An exact zero is
+/// +0 unless both addends are -0. NaN: the product goes by the rules of half_t's operators with x as its first operand,
+/// and the sum likewise with the product as its first operand; infinity times zero and infinity minus infinity give
+/// 0x7E00.
 ZTHALF_API half_t fma(half_t x, half_t y, half_t z);
 
 /// The distance of a and b in units in the last place of half at the smaller exponent of the two.
@@ -159,6 +160,30 @@ ZTHALF_API double ulp(half_t a, float b);
 ZTHALF_API double ulp(half_t a, double b);
 ZTHALF_API double ulp(float a, half_t b);
 ZTHALF_API double ulp(double a, half_t b);
+
+/// Complex values.
+///
+/// uminus: both signs changed, conj: that of the imaginary part; an imaginary part is never -0 in either.
+/// ceil, floor, fix, round: the real function on each part.
+/// abs: sqrt(re^2 + im^2), the exact sum's root rounded once; with a NaN it is 0x7E00 with the sign of the real part's
+/// NaN, or else of the imaginary part's, beside an infinity too.
+/// eps: eps of the magnitude. sign: z / |z| with each part rounded once; with an imaginary part of zero -1, +0, +1 or a
+/// quiet NaN, and +0.
+/// isnan, isinf: whether either part is one; isfinite: whether both parts are.
+/// hypot: hypot of the two magnitudes, each of which is rounded to half before.
+ZTHALF_API std::complex<half_t> uminus(std::complex<half_t> z);
+ZTHALF_API std::complex<half_t> conj(std::complex<half_t> z);
+ZTHALF_API std::complex<half_t> ceil(std::complex<half_t> z);
+ZTHALF_API std::complex<half_t> floor(std::complex<half_t> z);
+ZTHALF_API std::complex<half_t> fix(std::complex<half_t> z);
+ZTHALF_API std::complex<half_t> round(std::complex<half_t> z);
+ZTHALF_API std::complex<half_t> sign(std::complex<half_t> z);
+ZTHALF_API half_t abs(std::complex<half_t> z);
+ZTHALF_API half_t eps(std::complex<half_t> z);
+ZTHALF_API bool isnan(std::complex<half_t> z);
+ZTHALF_API bool isinf(std::complex<half_t> z);
+ZTHALF_API bool isfinite(std::complex<half_t> z);
+ZTHALF_API half_t hypot(std::complex<half_t> x, std::complex<half_t> y);
 
 /// Conversions between numbers and half patterns.
 ///

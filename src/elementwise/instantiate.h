@@ -9,3 +9,6 @@
 #define ZTHALF_INSTANTIATE_BINARY(op, Left, Right, Out)                        \
   template half_ptr::binary_entry<element::Left, element::Right, element::Out> \
       op<element::Left, element::Right, element::Out>;
+
+#define ZTHALF_INSTANTIATE_REMAINDER(op, Left, Right, Out) \
+  template half_ptr::binary_entry<storage::Left, storage::Right, storage::Out> op<storage::Left, storage::Right>;

@@ -13,6 +13,6 @@ void plus(Left* a, Right* b, Out* c, unsigned long na, unsigned long ndimsA, uns
                                                        dimsC);
 }
 
-ZTHALF_PLUS_ENTRIES(ZTHALF_INSTANTIATE_BINARY)
+ZTHALF_TWENTY_PAIRS(ZTHALF_INSTANTIATE_BINARY, plus)
 
 }  // namespace half

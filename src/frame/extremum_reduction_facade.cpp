@@ -14,8 +14,8 @@ element::CplxHalf* stored(std::complex<half_t>* p) { return reinterpret_cast<ele
 
 // A single dimension is the whole array.
 template <class Element>
-void chosen(half_ptr::whole_extremum_entry<Element>* whole, half_ptr::extremum_entry<Element>* along, void* src,
-            void* dst, unsigned long ndims, unsigned long* dims, bool firstReduced) {
+void chosen(half_ptr::unary_entry<Element, Element>* whole, half_ptr::reduction_entry<Element, Element>* along,
+            void* src, void* dst, unsigned long ndims, unsigned long* dims, bool firstReduced) {
   auto* const from = static_cast<Element*>(src);
   auto* const to = static_cast<Element*>(dst);
   if (ndims == 1) return whole(from, to, dims[0]);
@@ -23,9 +23,9 @@ void chosen(half_ptr::whole_extremum_entry<Element>* whole, half_ptr::extremum_e
 }
 
 template <class Element>
-void chosen(half_ptr::indexed_whole_extremum_entry<Element>* whole, half_ptr::indexed_extremum_entry<Element>* along,
-            void* src, void* dst, double* index, unsigned long ndims, unsigned long* dims, bool firstReduced,
-            bool linear) {
+void chosen(half_ptr::indexed_whole_entry<Element, Element>* whole,
+            half_ptr::indexed_reduction_entry<Element, Element>* along, void* src, void* dst, double* index,
+            unsigned long ndims, unsigned long* dims, bool firstReduced, bool linear) {
   auto* const from = static_cast<Element*>(src);
   auto* const to = static_cast<Element*>(dst);
   if (ndims == 1) return whole(from, to, index, dims[0]);

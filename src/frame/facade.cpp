@@ -17,6 +17,11 @@ T* stored(T* p) {
 std::complex<unsigned short>* bare(std::complex<half_t>* p) {
   return reinterpret_cast<std::complex<unsigned short>*>(p);
 }
+unsigned short* bare(half_t* p) { return reinterpret_cast<unsigned short*>(p); }
+template <class T>
+T* bare(T* p) {
+  return p;
+}
 
 }  // namespace
 
@@ -41,17 +46,32 @@ std::complex<unsigned short>* bare(std::complex<half_t>* p) {
     half_ptr::op##Left##Right##Ptr(stored(a), stored(b), stored(c), na, ndimsA, dimsA, nb, ndimsB, dimsB, nc, ndimsC, \
                                    dimsC);                                                                            \
   }
+#define ZTHALF_FORWARD_REMAINDER(op, Left, Right, Out)                                                          \
+  void op(element::Left* a, element::Right* b, element::Out* c, unsigned long na, unsigned long ndimsA,         \
+          unsigned long const* dimsA, unsigned long nb, unsigned long ndimsB, unsigned long const* dimsB,       \
+          unsigned long nc, unsigned long ndimsC, unsigned long const* dimsC) {                                 \
+    half_ptr::op##Left##Right##Ptr(bare(a), bare(b), bare(c), na, ndimsA, dimsA, nb, ndimsB, dimsB, nc, ndimsC, \
+                                   dimsC);                                                                      \
+  }
+#define ZTHALF_FORWARD_SIMPLE_REDUCTION(entry, facade, function, In, Out, Accumulator) \
+  void facade(element::In* src, element::Out* dst, unsigned long n) {                  \
+    half_ptr::entry##Ptr(stored(src), stored(dst), n);                                 \
+  }
 
 ZTHALF_UNARY_ENTRIES(ZTHALF_FORWARD_UNARY)
 ZTHALF_EARLY_EXIT_ENTRIES(ZTHALF_FORWARD_EARLY_EXIT)
 ZTHALF_TWO_OUT_ENTRIES(ZTHALF_FORWARD_TWO_OUT)
 ZTHALF_QUERY_ENTRIES(ZTHALF_FORWARD_QUERY)
 ZTHALF_BINARY_ENTRIES(ZTHALF_FORWARD_BINARY)
+ZTHALF_REMAINDER_ENTRIES(ZTHALF_FORWARD_REMAINDER)
+ZTHALF_SIMPLE_REDUCTION_ENTRIES(ZTHALF_FORWARD_SIMPLE_REDUCTION)
 
 #undef ZTHALF_FORWARD_UNARY
 #undef ZTHALF_FORWARD_EARLY_EXIT
 #undef ZTHALF_FORWARD_TWO_OUT
 #undef ZTHALF_FORWARD_QUERY
 #undef ZTHALF_FORWARD_BINARY
+#undef ZTHALF_FORWARD_REMAINDER
+#undef ZTHALF_FORWARD_SIMPLE_REDUCTION
 
 }  // namespace half_vector

@@ -14,7 +14,7 @@ namespace half_utils {
 // were written; the compiler checks for overlap itself before it takes a wide form of the loop.
 template <class Ftor, class In, class Out>
 struct unaryPass {
-  static constexpr bool isWide = zthalf::earnsLevels<Ftor>;
+  static constexpr bool isWide = zthalf::earnsLevelsFor<Ftor, In>;
   ZTHALF_INLINE static void run(In* src, Out* dst, unsigned long n) {
     for (unsigned long i = 0; i < n; ++i) dst[i] = Ftor{}(src[i]);
   }

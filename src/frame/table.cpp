@@ -2,6 +2,7 @@
 #include "zthalf/half_extrema.h"
 #include "zthalf/half_ops.h"
 #include "zthalf/half_ptr.h"
+#include "zthalf/half_reductions.h"
 
 namespace half_ptr {
 
@@ -17,8 +18,16 @@ namespace element = half::element;
 #define ZTHALF_FILL_BINARY(op, Left, Right, Out)                                    \
   binary_entry<element::Left, element::Right, element::Out>* op##Left##Right##Ptr = \
       &half::op<element::Left, element::Right, element::Out>;
+#define ZTHALF_FILL_REMAINDER(op, Left, Right, Out)                                                   \
+  binary_entry<half::storage::Left, half::storage::Right, half::storage::Out>* op##Left##Right##Ptr = \
+      &half::op<half::storage::Left, half::storage::Right>;
+#define ZTHALF_FILL_SIMPLE_REDUCTION(entry, facade, function, In, Out, Accumulator) \
+  unary_entry<element::In, element::Out>* entry##Ptr = &half::function<element::In, element::Out, element::Accumulator>;
+#define ZTHALF_FILL_REDUCTION(entry, facade, function, In, Out, Accumulator) \
+  reduction_entry<element::In, element::Out>* entry##Ptr =                   \
+      &half::function<element::In, element::Out, element::Accumulator>;
 #define ZTHALF_FILL_EXTREMUM(entry, shape, Element, Accumulator, function) \
-  shape##_entry<element::Element>* entry##Ptr =                            \
+  shape##_entry<element::Element, element::Element>* entry##Ptr =          \
       &half::function<element::Element, element::Element, element::Accumulator>;
 
 ZTHALF_UNARY_ENTRIES(ZTHALF_FILL_UNARY)
@@ -26,6 +35,10 @@ ZTHALF_EARLY_EXIT_ENTRIES(ZTHALF_FILL_EARLY_EXIT)
 ZTHALF_TWO_OUT_ENTRIES(ZTHALF_FILL_TWO_OUT)
 ZTHALF_QUERY_ENTRIES(ZTHALF_FILL_QUERY)
 ZTHALF_BINARY_ENTRIES(ZTHALF_FILL_BINARY)
+ZTHALF_REMAINDER_ENTRIES(ZTHALF_FILL_REMAINDER)
+ZTHALF_SIMPLE_REDUCTION_ENTRIES(ZTHALF_FILL_SIMPLE_REDUCTION)
+ZTHALF_SIMPLE_OMITNAN_REDUCTION_ENTRIES(ZTHALF_FILL_SIMPLE_REDUCTION)
+ZTHALF_REDUCTION_ENTRIES(ZTHALF_FILL_REDUCTION)
 ZTHALF_CHOSEN_BINARY_ENTRIES(ZTHALF_FILL_BINARY)
 ZTHALF_EXTREMUM_REDUCTION_ENTRIES(ZTHALF_FILL_EXTREMUM)
 
@@ -34,6 +47,9 @@ ZTHALF_EXTREMUM_REDUCTION_ENTRIES(ZTHALF_FILL_EXTREMUM)
 #undef ZTHALF_FILL_TWO_OUT
 #undef ZTHALF_FILL_QUERY
 #undef ZTHALF_FILL_BINARY
+#undef ZTHALF_FILL_REMAINDER
+#undef ZTHALF_FILL_SIMPLE_REDUCTION
+#undef ZTHALF_FILL_REDUCTION
 #undef ZTHALF_FILL_EXTREMUM
 
 }  // namespace half_ptr

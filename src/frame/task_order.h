@@ -2,18 +2,12 @@
 // Internal: promises nothing to users of the library.
 //
 // The system's oneTBB is built without the sanitizer, which therefore sees neither of the two and would report every
-// array that a caller filled and a task reads. In any other build a taskOrder is empty and does nothing.
+// array that a caller filled and a task reads. The sources that instantiate oneTBB's templates are left uninstrumented
+// for the same reason (cmake/CompileContract.cmake), and state the order themselves. In any other build a taskOrder is
+// empty and does nothing.
 #pragma once
 
 #include <utility>
-
-#if defined(__SANITIZE_THREAD__)
-#define ZTHALF_WATCHES_THREADS 1
-#elif defined(__has_feature)
-#if __has_feature(thread_sanitizer)
-#define ZTHALF_WATCHES_THREADS 1
-#endif
-#endif
 
 #if defined(ZTHALF_WATCHES_THREADS)
 extern "C" void __tsan_acquire(void* address);
@@ -35,9 +29,8 @@ class taskOrder {
   auto inTask(Body body) {
 #if defined(ZTHALF_WATCHES_THREADS)
     return [this, body](auto&&... args) {
-      acquire(&forked_);
+      const taskSpan span(*this);
       body(std::forward<decltype(args)>(args)...);
-      release(&finished_);
     };
 #else
     return body;
@@ -45,6 +38,13 @@ class taskOrder {
   }
 
  private:
+  // A task's time in the body, which an exception may end.
+  struct taskSpan {
+    explicit taskSpan(taskOrder& o) : order(o) { acquire(&order.forked_); }
+    ~taskSpan() { release(&order.finished_); }
+    taskOrder& order;
+  };
+
 #if defined(ZTHALF_WATCHES_THREADS)
   static void acquire(char* event) { __tsan_acquire(event); }
   static void release(char* event) { __tsan_release(event); }

@@ -60,7 +60,8 @@ void maxReduceFuncOmitNaN(SrcT* src, DstT* dst, double* index, unsigned long ndi
 }
 
 #define ZTHALF_INSTANTIATE_REDUCTION(entry, shape, Element, Accumulator, function) \
-  template half_ptr::shape##_entry<element::Element> function<element::Element, element::Element, element::Accumulator>;
+  template half_ptr::shape##_entry<element::Element, element::Element>             \
+      function<element::Element, element::Element, element::Accumulator>;
 
 ZTHALF_MAX_REDUCTION_ENTRIES(ZTHALF_INSTANTIATE_REDUCTION)
 

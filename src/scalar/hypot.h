@@ -11,31 +11,33 @@
 
 namespace zthalf {
 
-// Where the working type's root sits exactly half-way between two halves: of the bits below a half's last place the
-// leading one alone is set. Above the place of the half's last bit one more is looked at, which tells the ties that
-// round down to even from those that round up.
-template <class Wide>
+// Where the working type's root sits exactly half-way between two numbers of a narrow type, by the width of its
+// fraction: of the bits below the narrow one's last place the leading one alone is set. Above the place of the narrow
+// number's last bit one more is looked at, which tells the ties that round down to even from those that round up.
+template <class Wide, int narrowFractionWidth>
 struct rootTies {
   using word = typename formatOf<Wide>::word;
-  static constexpr int belowHalf = formatOf<Wide>::fractionWidth - 10;
-  static constexpr word mask = (word{4} << (belowHalf - 1)) - 1;
-  static constexpr word roundingDown = word{1} << (belowHalf - 1);
-  static constexpr word roundingUp = word{3} << (belowHalf - 1);
+  static constexpr int below = formatOf<Wide>::fractionWidth - narrowFractionWidth;
+  static constexpr word mask = (word{4} << (below - 1)) - 1;
+  static constexpr word roundingDown = word{1} << (below - 1);
+  static constexpr word roundingUp = word{3} << (below - 1);
 };
 
-// sqrt(a^2 + b^2) rounded to half, as if the root had been taken of the exact sum: for halves in float, for a half and
-// a float in double. Both squares are exact there, and the sum s cannot overflow.
+inline constexpr int halfFractionWidth = 10;
+
+// sqrt(a^2 + b^2), moved so that its rounding to the narrow type gives what the exact root would: for halves in float,
+// where a float takes part in double. Both squares are exact there, and the sum s cannot overflow.
 //
-// The rounding of the root r to half can go wrong only where r is exactly a tie, and the exact root is not. The exact
+// The second rounding of the root r can go wrong only where r is exactly a tie, and the exact root is not. The exact
 // sum is s - e, with e the rounding error of s, and r^2 = s - d: so the exact root is above r where e < d, and below it
 // where e > d. A tie that would round down to even is moved up by its last bit in the first case, one that would round
 // up is moved down in the second.
 //
-// Magnitudes come in, so a NaN result is positive. With an infinity e is a NaN, both comparisons are false, and the
-// root stands: infinity, or a NaN if the other operand was one.
-template <class Wide>
-ZTHALF_INLINE std::uint16_t hypotOfMagnitudes(Wide a, Wide b) {
-  using ties = rootTies<Wide>;
+// With an infinity e is a NaN, both comparisons are false, and the root stands: infinity, or a NaN if the other operand
+// was one. A NaN's sign is not settled here.
+template <int narrowFractionWidth, class Wide>
+ZTHALF_INLINE Wide rootOfSquares(Wide a, Wide b) {
+  using ties = rootTies<Wide, narrowFractionWidth>;
   using word = typename ties::word;
   const Wide squareA = a * a;
   const Wide squareB = b * b;
@@ -49,7 +51,13 @@ ZTHALF_INLINE std::uint16_t hypotOfMagnitudes(Wide a, Wide b) {
   const bool isInexact = e != 0;
   const word raise = maskOf<word>(isInexact & (low == ties::roundingDown) & (e < d)) & 1;
   const word lower = maskOf<word>(isInexact & (low == ties::roundingUp) & (e > d)) & 1;
-  return narrow(valueOf((bits | raise) - lower));
+  return valueOf((bits | raise) - lower);
+}
+
+// Magnitudes come in, so a NaN result is positive.
+template <class Wide>
+ZTHALF_INLINE std::uint16_t hypotOfMagnitudes(Wide a, Wide b) {
+  return narrow(rootOfSquares<halfFractionWidth>(a, b));
 }
 
 template <class Wide>

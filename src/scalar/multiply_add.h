@@ -14,32 +14,9 @@
 #include "core/float_conversion.h"
 #include "core/nan_policy.h"
 #include "scalar/mixed_operands.h"
+#include "scalar/nudged_sum.h"
 
 namespace zthalf {
-
-// product + z, about to lose its lowest `dropped` bits to a narrower type. With s the rounded sum, e is s less the
-// exact sum: the sign is right always.
-//
-// Rounding s again goes wrong where s is a tie of the narrow type and the exact sum is not. Where s is too small in
-// magnitude, setting its lowest bit moves it off a tie and changes nothing else that the second rounding sees; where it
-// is too large and a tie, it is lowered by its last bit. So the result is the correctly rounded one, except below the
-// narrow type's normal range, where the ties have more bits below them.
-//
-// With an infinity or a NaN e is a NaN and nothing is moved; s does not overflow.
-template <int dropped, class Wide>
-ZTHALF_INLINE Wide nudgedSum(Wide product, Wide z) {
-  using word = typename formatOf<Wide>::word;
-  constexpr word tieMask = (word{1} << dropped) - 1;
-  constexpr word tie = word{1} << (dropped - 1);
-  const Wide s = product + z;
-  const Wide e = ((s - product) - z) + ((s - z) - product);
-  const word bits = bitsOf(s);
-  const bool isTooSmall = ((e < 0) & (s > 0)) | ((e > 0) & (s < 0));
-  const bool isTooLarge = ((e > 0) & (s > 0)) | ((e < 0) & (s < 0));
-  const word raise = maskOf<word>(isTooSmall) & 1;
-  const word lower = maskOf<word>(isTooLarge & ((bits & tieMask) == tie)) & 1;
-  return valueOf((bits | raise) - lower);
-}
 
 // The fused operation, and its NaN: a signalling operand before a quiet one, then the first one of x, y, z; the default
 // NaN if no operand is one.

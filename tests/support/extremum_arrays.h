@@ -72,10 +72,10 @@ template <class Stored>
 class extremumEntry {
  public:
   using element = typename testElement<Stored>::type;
-  using whole = half_ptr::whole_extremum_entry<Stored>*;
-  using indexedWhole = half_ptr::indexed_whole_extremum_entry<Stored>*;
-  using along = half_ptr::extremum_entry<Stored>*;
-  using indexedAlong = half_ptr::indexed_extremum_entry<Stored>*;
+  using whole = half_ptr::unary_entry<Stored, Stored>*;
+  using indexedWhole = half_ptr::indexed_whole_entry<Stored, Stored>*;
+  using along = half_ptr::reduction_entry<Stored, Stored>*;
+  using indexedAlong = half_ptr::indexed_reduction_entry<Stored, Stored>*;
 
   static Stored* stored(element* p) { return reinterpret_cast<Stored*>(p); }
 };

@@ -64,10 +64,6 @@ inline half_t real(complexHalf z) { return z.real(); }
 inline half_t imag(complexHalf z) { return z.imag(); }
 inline complexHalf realToComplex(half_t x) { return {x, half_t{0}}; }
 
-inline bool isnan(complexHalf z) { return isnan(z.real()) || isnan(z.imag()); }
-inline bool isinf(complexHalf z) { return isinf(z.real()) || isinf(z.imag()); }
-inline bool isfinite(complexHalf z) { return isfinite(z.real()) && isfinite(z.imag()); }
-
 // Holds a rule to the output type of its row: std::complex would take a real result silently.
 template <class Out, class Result>
 Out exactly(Result result) {

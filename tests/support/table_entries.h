@@ -30,7 +30,7 @@ namespace facade_element = half_vector::element;
         nullptr);
 #define ZTHALF_VISIT_EXTREMUM(entry, shape, Element, Accumulator, function)             \
   visit(#entry, half_ptr::entry##Ptr,                                                   \
-        static_cast<half_ptr::shape##_entry<element::Element>*>(                        \
+        static_cast<half_ptr::shape##_entry<element::Element, element::Element>*>(      \
             &half::function<element::Element, element::Element, element::Accumulator>), \
         nullptr);
 

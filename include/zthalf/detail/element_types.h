@@ -7,18 +7,18 @@
 #include "zthalf/half_t.h"
 
 // The element types that all layers share.
-#define ZTHALF_COMMON_TAGS              \
-  using Single = float;                 \
-  using Double = double;                \
-  using UInt8 = unsigned char;          \
-  using Int8 = signed char;             \
-  using UInt16 = unsigned short;        \
-  using Int16 = short;                  \
-  using UInt32 = unsigned int;          \
-  using Int32 = int;                    \
-  using UInt64 = unsigned long long;    \
-  using Int64 = long long;              \
-  using Logical = bool;                 \
+#define ZTHALF_COMMON_TAGS                \
+  using Single = float;                   \
+  using Double = double;                  \
+  using UInt8 = unsigned char;            \
+  using Int8 = signed char;               \
+  using UInt16 = unsigned short;          \
+  using Int16 = short;                    \
+  using UInt32 = unsigned int;            \
+  using Int32 = int;                      \
+  using UInt64 = unsigned long long;      \
+  using Int64 = long long;                \
+  using Logical = bool;                   \
   using CplxSingle = std::complex<float>; \
   using CplxDouble = std::complex<double>;
 

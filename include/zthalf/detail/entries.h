@@ -31,11 +31,13 @@
   X(uminus, uminus, Half, Half, uminus<element::Half>)                          \
   X(cplxUminus, uminus, CplxHalf, CplxHalf, uminus<element::CplxHalf>)          \
   X(abs, abs, Half, Half, abs<element::Half>)                                   \
+  X(cplxAbs, abs, CplxHalf, Half, abs<element::CplxHalf>)                       \
   X(cplxReal, real, CplxHalf, Half, cplxReal<element::Half>)                    \
   X(cplxImag, imag, CplxHalf, Half, cplxImag<element::Half>)                    \
   X(cplxConj, conj, CplxHalf, CplxHalf, cplxConj<element::Half>)                \
   X(realToComplex, realToComplex, Half, CplxHalf, realToComplex<element::Half>) \
-  X(sign, sign, Half, Half, sign<element::Half>)
+  X(sign, sign, Half, Half, sign<element::Half>)                                \
+  X(cplxSign, sign, CplxHalf, CplxHalf, sign<element::CplxHalf>)
 
 #define ZTHALF_CLASSIFICATION_ENTRIES(X)                           \
   X(isnan, isnan, Half, Logical, isnan<element::Half>)             \
@@ -45,7 +47,9 @@
   X(isfinite, isfinite, Half, Logical, isfinite<element::Half>)    \
   X(cplxIsfinite, isfinite, CplxHalf, Logical, isfinite<element::CplxHalf>)
 
-#define ZTHALF_SPACING_ENTRIES(X) X(eps, eps, Half, Half, eps<element::Half>)
+#define ZTHALF_SPACING_ENTRIES(X)             \
+  X(eps, eps, Half, Half, eps<element::Half>) \
+  X(cplxEps, eps, CplxHalf, Half, eps<element::CplxHalf>)
 
 // Plain functions, not templates.
 #define ZTHALF_ROUNDING_ENTRIES(X)   \
@@ -166,9 +170,59 @@
 
 #define ZTHALF_TWENTY_PAIRS(X, op) ZTHALF_REAL_PAIRS(X, op, Half) ZTHALF_COMPLEX_PAIRS(X, op)
 
-#define ZTHALF_PLUS_ENTRIES(X) X(plus, Half, Half, Half)
+#define ZTHALF_ARITHMETIC_ENTRIES(X) \
+  ZTHALF_TWENTY_PAIRS(X, plus)       \
+  ZTHALF_TWENTY_PAIRS(X, minus)      \
+  ZTHALF_TWENTY_PAIRS(X, times)      \
+  ZTHALF_TWENTY_PAIRS(X, rdivide)    \
+  ZTHALF_TWENTY_PAIRS(X, ldivide)
 
-#define ZTHALF_BINARY_ENTRIES(X) ZTHALF_PLUS_ENTRIES(X)
+#define ZTHALF_HYPOT_ENTRIES(X) ZTHALF_TWENTY_PAIRS(X, hypot)
+#define ZTHALF_ANGLE_ENTRIES(X) ZTHALF_REAL_PAIRS(X, atan2, Half)
+#define ZTHALF_PAIRING_ENTRIES(X) ZTHALF_REAL_PAIRS(X, realToComplex, CplxHalf)
+
+#define ZTHALF_BINARY_ENTRIES(X) \
+  ZTHALF_ARITHMETIC_ENTRIES(X)   \
+  ZTHALF_HYPOT_ENTRIES(X)        \
+  ZTHALF_ANGLE_ENTRIES(X)        \
+  ZTHALF_PAIRING_ENTRIES(X)
+
+// Remainder rows: as binary rows, but the template instance has the two operands' types only, and a half is a bare
+// pattern there.
+#define ZTHALF_REMAINDER_ENTRIES(X) \
+  ZTHALF_REAL_PAIRS(X, mod, Half)   \
+  ZTHALF_REAL_PAIRS(X, rem, Half)
+
+// Reductions: X(entry, facade name, template in namespace half, input tag, output tag, accumulator tag). Only the
+// simple forms that keep NaNs have a facade of their own; the selectors of half_vector reach all entries.
+
+#define ZTHALF_REDUCTION_PRECISIONS(X, reduction, function, options)                               \
+  X(reduction##Half##options, reduction##Half, function, Half, Half, Half)                         \
+  X(reduction##Single##options, reduction##Single, function, Half, Half, Single)                   \
+  X(reduction##Double##options, reduction##Double, function, Half, Double, Double)                 \
+  X(reduction##Half##options##Cplx, reduction##Half, function, CplxHalf, CplxHalf, CplxHalf)       \
+  X(reduction##Single##options##Cplx, reduction##Single, function, CplxHalf, CplxHalf, CplxSingle) \
+  X(reduction##Double##options##Cplx, reduction##Double, function, CplxHalf, CplxDouble, CplxDouble)
+
+#define ZTHALF_SIMPLE_REDUCTIONS(X, op) ZTHALF_REDUCTION_PRECISIONS(X, op##SimpleReduce, op##SimpleReduce, )
+#define ZTHALF_SIMPLE_REDUCTIONS_OMITNAN(X, op) \
+  ZTHALF_REDUCTION_PRECISIONS(X, op##SimpleReduce, op##SimpleReduceOmitNaN, OmitNaN)
+#define ZTHALF_REDUCTIONS_ALONG_DIMENSIONS(X, op)              \
+  ZTHALF_REDUCTION_PRECISIONS(X, op##Reduce, op##ReduceFunc, ) \
+  ZTHALF_REDUCTION_PRECISIONS(X, op##Reduce, op##ReduceFuncOmitNaN, OmitNaN)
+
+#define ZTHALF_SIMPLE_REDUCTION_ENTRIES(X) \
+  ZTHALF_SIMPLE_REDUCTIONS(X, sum)         \
+  ZTHALF_SIMPLE_REDUCTIONS(X, prod)        \
+  ZTHALF_SIMPLE_REDUCTIONS(X, mean)
+#define ZTHALF_SIMPLE_OMITNAN_REDUCTION_ENTRIES(X) \
+  ZTHALF_SIMPLE_REDUCTIONS_OMITNAN(X, sum)         \
+  ZTHALF_SIMPLE_REDUCTIONS_OMITNAN(X, prod)        \
+  ZTHALF_SIMPLE_REDUCTIONS_OMITNAN(X, mean)
+#define ZTHALF_REDUCTION_ENTRIES(X)           \
+  ZTHALF_REDUCTIONS_ALONG_DIMENSIONS(X, sum)  \
+  ZTHALF_REDUCTIONS_ALONG_DIMENSIONS(X, prod) \
+  ZTHALF_REDUCTIONS_ALONG_DIMENSIONS(X, mean)
 
 // Binary rows that the table has and the facade has no function for: half_vector::minBinOp and maxBinOp choose among
 // them.
@@ -180,15 +234,15 @@
 
 // Reductions of min and max: X(entry, shape, element tag, accumulator tag, template in namespace half). The shape is an
 // alias of entry_shapes.h without its ending.
-#define ZTHALF_EXTREMUM_REDUCTIONS(X, prefix, op, Element, Accumulator)                                          \
-  X(prefix##SimpleReduce, whole_extremum, Element, Accumulator, op##SimpleReduce)                                \
-  X(prefix##SimpleReduceOmitNaN, whole_extremum, Element, Accumulator, op##SimpleReduceOmitNaN)                  \
-  X(prefix##SimpleReduceWithIndex, indexed_whole_extremum, Element, Accumulator, op##SimpleReduce)               \
-  X(prefix##SimpleReduceWithIndexOmitNaN, indexed_whole_extremum, Element, Accumulator, op##SimpleReduceOmitNaN) \
-  X(prefix##Reduce, extremum, Element, Accumulator, op##ReduceFunc)                                              \
-  X(prefix##ReduceOmitNaN, extremum, Element, Accumulator, op##ReduceFuncOmitNaN)                                \
-  X(prefix##ReduceWithIndex, indexed_extremum, Element, Accumulator, op##ReduceFunc)                             \
-  X(prefix##ReduceWithIndexOmitNaN, indexed_extremum, Element, Accumulator, op##ReduceFuncOmitNaN)
+#define ZTHALF_EXTREMUM_REDUCTIONS(X, prefix, op, Element, Accumulator)                                 \
+  X(prefix##SimpleReduce, unary, Element, Accumulator, op##SimpleReduce)                                \
+  X(prefix##SimpleReduceOmitNaN, unary, Element, Accumulator, op##SimpleReduceOmitNaN)                  \
+  X(prefix##SimpleReduceWithIndex, indexed_whole, Element, Accumulator, op##SimpleReduce)               \
+  X(prefix##SimpleReduceWithIndexOmitNaN, indexed_whole, Element, Accumulator, op##SimpleReduceOmitNaN) \
+  X(prefix##Reduce, reduction, Element, Accumulator, op##ReduceFunc)                                    \
+  X(prefix##ReduceOmitNaN, reduction, Element, Accumulator, op##ReduceFuncOmitNaN)                      \
+  X(prefix##ReduceWithIndex, indexed_reduction, Element, Accumulator, op##ReduceFunc)                   \
+  X(prefix##ReduceWithIndexOmitNaN, indexed_reduction, Element, Accumulator, op##ReduceFuncOmitNaN)
 
 #define ZTHALF_MIN_REDUCTION_ENTRIES(X)                 \
   ZTHALF_EXTREMUM_REDUCTIONS(X, min, min, Half, Single) \

@@ -22,15 +22,13 @@ using binary_entry = void(Left*, Right*, Out*,                                  
                           unsigned long, unsigned long, unsigned long const*,   // right
                           unsigned long, unsigned long, unsigned long const*);  // output
 
-// min and max of a whole array, and along dimensions: sizes, and whether the first one is reduced. The index is written
-// beside the value; the last flag of the indexed form is whether it counts in the whole array.
-template <class Element>
-using whole_extremum_entry = void(Element*, Element*, unsigned long);
-template <class Element>
-using indexed_whole_extremum_entry = void(Element*, Element*, double*, unsigned long);
-template <class Element>
-using extremum_entry = void(Element*, Element*, unsigned long, unsigned long*, bool);
-template <class Element>
-using indexed_extremum_entry = void(Element*, Element*, double*, unsigned long, unsigned long*, bool, bool);
+template <class In, class Out>
+using reduction_entry = void(In*, Out*, unsigned long, unsigned long*, bool);  // dimensions, sizes, first one reduced
+
+// The index of the result beside it; the last flag is whether it counts in the whole array.
+template <class In, class Out>
+using indexed_whole_entry = void(In*, Out*, double*, unsigned long);
+template <class In, class Out>
+using indexed_reduction_entry = void(In*, Out*, double*, unsigned long, unsigned long*, bool, bool);
 
 }  // namespace half_ptr

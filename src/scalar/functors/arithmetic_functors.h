@@ -1,16 +1,59 @@
-// Functors of the arithmetic operations.
+// Functors of the arithmetic operations, on every pair of operands.
 // Internal: promises nothing to users of the library.
 #pragma once
 
-#include "scalar/half_arithmetic.h"
-#include "zthalf/half_t.h"
+#include <concepts>
+
+#include "scalar/functors/operands.h"
+#include "scalar/mixed_arithmetic.h"
 
 namespace half::scalar::emulated {
 
 struct plusFtor {
   static constexpr unsigned long grain = 256;
-  ZTHALF_INLINE fp16binary_t operator()(fp16binary_t a, fp16binary_t b) const {
-    return {zthalf::sumOf(a.bits, b.bits)};
+  template <class A, class B>
+  static constexpr bool baseOnlyFor = isMixedComplexPair<A, B>;
+  template <class A, class B>
+  ZTHALF_INLINE auto operator()(A x, B y) const {
+    return element(zthalf::anySum(plainOperand(x), plainOperand(y)));
+  }
+};
+
+struct minusFtor {
+  static constexpr unsigned long grain = 256;
+  template <class A, class B>
+  static constexpr bool baseOnlyFor = isMixedComplexPair<A, B>;
+  template <class A, class B>
+  ZTHALF_INLINE auto operator()(A x, B y) const {
+    return element(zthalf::anyDifference(plainOperand(x), plainOperand(y)));
+  }
+};
+
+struct timesFtor {
+  static constexpr unsigned long grain = 256;
+  template <class A, class B>
+  static constexpr bool baseOnlyFor =
+      isComplexPair<A, B> && !(std::is_same_v<A, complexHalf> && std::is_same_v<B, complexHalf>);
+  template <class A, class B>
+  ZTHALF_INLINE auto operator()(A x, B y) const {
+    return element(zthalf::anyProduct(plainOperand(x), plainOperand(y)));
+  }
+
+  // In lanes, but for the sign of a NaN.
+  template <std::same_as<complexHalf> Z>
+  ZTHALF_INLINE complexHalf plain(Z x, Z y) const {
+    return element(zthalf::plainComplexProduct(plainOperand(x), plainOperand(y)));
+  }
+  ZTHALF_INLINE static bool isUnsettled(complexHalf z) { return isNaNElement(z); }
+};
+
+struct rdivideFtor {
+  static constexpr unsigned long grain = 256;
+  template <class A, class B>
+  static constexpr bool baseOnlyFor = isComplexPair<A, B>;  // a chain of tests
+  template <class A, class B>
+  ZTHALF_INLINE auto operator()(A x, B y) const {
+    return element(zthalf::anyQuotient(plainOperand(x), plainOperand(y)));
   }
 };
 

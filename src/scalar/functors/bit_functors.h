@@ -1,15 +1,15 @@
-// Functors of the operations that are bit work on a pattern.
+// Functors of sign, magnitude, parts and class: bit work on a pattern, but for the magnitude and direction of a complex
+// element.
 // Internal: promises nothing to users of the library.
 #pragma once
 
 #include <complex>
 
+#include "scalar/complex/magnitude.h"
+#include "scalar/functors/operands.h"
 #include "scalar/sign_and_class.h"
-#include "zthalf/half_t.h"
 
 namespace half::scalar::emulated {
-
-using complexHalf = std::complex<fp16binary_t>;
 
 struct uminusFtor {
   static constexpr unsigned long grain = 4096;
@@ -39,16 +39,25 @@ struct imagFtor {
 struct absFtor {
   static constexpr unsigned long grain = 512;
   ZTHALF_INLINE fp16binary_t operator()(fp16binary_t x) const { return {zthalf::pattern::magnitudeOf(x.bits)}; }
+  ZTHALF_INLINE fp16binary_t operator()(complexHalf z) const { return {zthalf::magnitudeOf(plainOperand(z))}; }
 };
 
+// Of one operand, or of two: a part that is not a half is rounded to one.
 struct realToComplexFtor {
   static constexpr unsigned long grain = 512;
   ZTHALF_INLINE complexHalf operator()(fp16binary_t x) const { return {x, {zthalf::pattern::zero}}; }
+  template <class A, class B>
+  ZTHALF_INLINE complexHalf operator()(A x, B y) const {
+    return {{zthalf::partAsHalf(plainOperand(x))}, {zthalf::partAsHalf(plainOperand(y))}};
+  }
 };
 
 struct signFtor {
   static constexpr unsigned long grain = 256;
+  template <class T>
+  static constexpr bool baseOnlyFor = std::is_same_v<T, complexHalf>;  // a call for each element
   ZTHALF_INLINE fp16binary_t operator()(fp16binary_t x) const { return {zthalf::signumOf(x.bits)}; }
+  complexHalf operator()(complexHalf z) const { return element(zthalf::directionOf(plainOperand(z))); }
 };
 
 namespace realOps {

@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <complex>
 
+#include "scalar/complex/magnitude.h"
+#include "scalar/functors/operands.h"
 #include "scalar/rounding.h"
 #include "scalar/spacing.h"
 #include "zthalf/half_t.h"
@@ -34,6 +36,7 @@ struct roundFtor {
 struct epsFtor {
   static constexpr unsigned long grain = 256;
   ZTHALF_INLINE fp16binary_t operator()(fp16binary_t x) const { return {zthalf::epsOf(x.bits)}; }
+  ZTHALF_INLINE fp16binary_t operator()(std::complex<fp16binary_t> z) const { return {zthalf::epsOf(plainOperand(z))}; }
 };
 
 // The distance in units in the last place; of complex values the larger one of the two parts.
@@ -43,7 +46,7 @@ struct ulpFtor {
 
   template <class A, class B>
   double operator()(A a, B b) const {
-    return zthalf::ulpDistance(plain(a), plain(b));
+    return zthalf::ulpDistance(plainOperand(a), plainOperand(b));
   }
 
   template <class A, class B>
@@ -61,11 +64,6 @@ struct ulpFtor {
   double operator()(A a, std::complex<B> b) const {
     return (*this)(std::complex<A>(a, A{}), b);
   }
-
- private:
-  static std::uint16_t plain(fp16binary_t x) { return x.bits; }
-  static float plain(float x) { return x; }
-  static double plain(double x) { return x; }
 };
 
 }  // namespace half::scalar::emulated

@@ -1,23 +1,22 @@
-// Functors of hypot, atan2, power and the scaling by a power of two, on real operands.
+// Functors of hypot, atan2, power, the scaling by a power of two, and the pairing of two parts.
 // Internal: promises nothing to users of the library.
 #pragma once
 
+#include "scalar/complex/mixed_magnitude.h"
+#include "scalar/functors/operands.h"
 #include "scalar/two_argument.h"
-#include "zthalf/half_t.h"
 
 namespace half::scalar::emulated {
 
-// What the element functions take for an operand.
-ZTHALF_INLINE std::uint16_t plainOperand(fp16binary_t x) { return x.bits; }
-ZTHALF_INLINE float plainOperand(float x) { return x; }
-ZTHALF_INLINE double plainOperand(double x) { return x; }
-
 struct hypotFtor {
   static constexpr unsigned long grain = 256;
+  template <class A, class B>
+  static constexpr bool baseOnlyFor =
+      zthalf::anyDouble<operandOf<A>, operandOf<B>> || isComplexPair<A, B>;  // many steps for an element
 
   template <class A, class B>
-  ZTHALF_INLINE fp16binary_t operator()(A x, B y) const {
-    return {zthalf::hypotOf(plainOperand(x), plainOperand(y))};
+  ZTHALF_INLINE auto operator()(A x, B y) const {
+    return element(zthalf::anyHypot(plainOperand(x), plainOperand(y)));
   }
 };
 

@@ -1,0 +1,125 @@
+// Products with a complex operand.
+// Internal: promises nothing to users of the library.
+//
+// A part that is zero takes no part in the arithmetic: a real or imaginary number times anything leaves no spurious
+// NaN, as infinity times the zero part would. What is left away is left away before it is computed.
+#pragma once
+
+#include <cmath>
+
+#include "scalar/complex/complex_value.h"
+#include "scalar/nudged_sum.h"
+
+namespace zthalf {
+
+// The sum of two products of four numbers that are not zero, ready for its rounding to half. The three ways differ in
+// what they guard against.
+
+// Parts that are halves: their products are exact in float.
+struct exactInSingle {
+  template <class Unit>
+  ZTHALF_INLINE static float sumOfProducts(Unit, float p, float r, float q, float s) {
+    const float first = Unit::product(p, r);
+    const float second = Unit::product(q, s);
+    if constexpr (std::is_same_v<Unit, definedUnit>) return settled(nudgedSum<13>(first, second), first, second);
+    return nudgedSum<13>(first, second);
+  }
+};
+
+// Floats and halves: the products are exact in double.
+struct exactInDouble {
+  template <class Unit>
+  ZTHALF_INLINE static double sumOfProducts(Unit, double p, double r, double q, double s) {
+    const double first = Unit::product(p, r);
+    const double second = Unit::product(q, s);
+    if constexpr (std::is_same_v<Unit, definedUnit>) return settled(nudgedSum<42>(first, second), first, second);
+    return nudgedSum<42>(first, second);
+  }
+};
+
+// Doubles and halves: the second product is rounded, the first is fused with the sum. The fused operation's NaN is the
+// first one of its three operands, a signalling one before a quiet one; the rounded product is quiet.
+struct fusedInDouble {
+  template <class Unit>
+  ZTHALF_INLINE static double sumOfProducts(Unit, double p, double r, double q, double s) {
+    const double second = Unit::product(q, s);
+    const double fused = std::fma(p, r, second);
+    if constexpr (std::is_same_v<Unit, definedUnit>) {
+      if (fused == fused) return fused;
+      const double product = settled(p * r, p, r);
+      return product != product && p == p && r == r ? settled(fused, second) : settled(fused, product, second);
+    }
+    return fused;
+  }
+};
+
+// A complex z times a real x. In which order they were written does not matter.
+template <class Unit, class Wide>
+ZTHALF_INLINE complexOf<Wide> timesReal(Unit, complexOf<Wide> z, Wide x) {
+  const Wide re = Unit::product(z.re, x);
+  if (z.im == 0) return {re, 0};
+  const Wide im = Unit::product(z.im, x);
+  return {z.re == 0 ? 0 : re, im};
+}
+
+// x times y in Wide; Way sums the products where there are two.
+template <class Way, class Unit, class Wide>
+ZTHALF_INLINE complexOf<Wide> timesComplex(Unit unit, complexOf<Wide> x, complexOf<Wide> y) {
+  if (x.im == 0) return timesReal(unit, y, x.re);
+  if (y.im == 0) return timesReal(unit, x, y.re);
+  if (x.re != 0 && y.re != 0) {
+    return {Way::sumOfProducts(unit, x.re, y.re, x.im, withSignFlipped(y.im)),
+            Way::sumOfProducts(unit, x.re, y.im, x.im, y.re)};
+  }
+  const Wide re = withSignFlipped(Unit::product(x.im, y.im));
+  if (y.re != 0) return {re, Unit::product(x.im, y.re)};
+  if (x.re != 0) return {re, Unit::product(x.re, y.im)};
+  return {re, 0};
+}
+
+// The product of two complex halves without a branch, for a pass in vector lanes; on numbers the same bits. A term that
+// takes no part becomes minus zero, which no sum notices; where both terms of a part are absent the part is plus zero.
+// A NaN's sign is not settled.
+ZTHALF_INLINE complexHalf plainComplexProduct(complexHalf x, complexHalf y) {
+  constexpr std::uint32_t minusZero = 0x80000000u;
+  const auto absentIf = [](float term, std::uint32_t absent) {
+    return floatOf(select(absent, minusZero, bitsOf(term)));
+  };
+  const float a = widen<float>(x.re), b = widen<float>(x.im), c = widen<float>(y.re), d = widen<float>(y.im);
+  const auto noA = maskOf<std::uint32_t>(a == 0), noB = maskOf<std::uint32_t>(b == 0);
+  const auto noC = maskOf<std::uint32_t>(c == 0), noD = maskOf<std::uint32_t>(d == 0);
+  // Of a real factor both products with the other one's parts are taken, whatever it is itself: but a zero part of the
+  // other one is left out.
+  const std::uint32_t noAC = select(noB, noC & ~noD, select(noD, noA, noA | noC));
+  const std::uint32_t noBD = noB | noD;
+  const std::uint32_t noAD = select(noB, noD, noD | noA);
+  const std::uint32_t noBC = noB | (noC & ~noD);
+  const float re = nudgedSum<13>(absentIf(a * c, noAC), absentIf(withSignFlipped(b * d), noBD));
+  const float im = nudgedSum<13>(absentIf(a * d, noAD), absentIf(b * c, noBC));
+  return {narrow(floatOf(bitsOf(re) & ~(noAC & noBD))), narrow(floatOf(bitsOf(im) & ~(noAD & noBC)))};
+}
+
+// The product of two complex operands, or of a complex and a real one.
+template <class A, class B>
+ZTHALF_INLINE complexHalf complexProduct(A x, B y) {
+  if constexpr (isComplexOperand<A> && isComplexOperand<B>) {
+    using part =
+        std::conditional_t<isHalfOperand<typename partOf<A>::type>, typename partOf<B>::type, typename partOf<A>::type>;
+    using way = std::conditional_t<isHalfOperand<part>, exactInSingle,
+                                   std::conditional_t<std::is_same_v<part, float>, exactInDouble, fusedInDouble>>;
+    using wide = std::conditional_t<isHalfOperand<part>, float, double>;
+    return narrowed(
+        onDefinedUnit([&](auto unit) { return timesComplex<way>(unit, exactly<wide>(x), exactly<wide>(y)); }));
+  } else {
+    using wide = workingTypeOf<A, B>;
+    return narrowed(onDefinedUnit([&](auto unit) {
+      if constexpr (isComplexOperand<A>) {
+        return timesReal(unit, exactly<wide>(x), exactly<wide>(y));
+      } else {
+        return timesReal(unit, exactly<wide>(y), exactly<wide>(x));
+      }
+    }));
+  }
+}
+
+}  // namespace zthalf

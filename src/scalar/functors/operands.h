@@ -1,0 +1,41 @@
+// From the elements of arrays to what the element functions take, and back.
+// Internal: promises nothing to users of the library.
+#pragma once
+
+#include <complex>
+
+#include "scalar/complex/complex_value.h"
+#include "zthalf/half_t.h"
+
+namespace half::scalar::emulated {
+
+using complexHalf = std::complex<fp16binary_t>;
+
+ZTHALF_INLINE std::uint16_t plainOperand(fp16binary_t x) { return x.bits; }
+ZTHALF_INLINE float plainOperand(float x) { return x; }
+ZTHALF_INLINE double plainOperand(double x) { return x; }
+template <class T>
+ZTHALF_INLINE auto plainOperand(std::complex<T> z) {
+  return zthalf::complexOf<decltype(plainOperand(T{}))>{plainOperand(z.real()), plainOperand(z.imag())};
+}
+
+template <class T>
+using operandOf = decltype(plainOperand(T{}));
+
+template <class A, class B>
+inline constexpr bool isComplexPair = zthalf::isComplexOperand<operandOf<A>> || zthalf::isComplexOperand<operandOf<B>>;
+
+// Complex operands beside floats or doubles gain nothing from the wide levels: most of the work is moving parts.
+template <class A, class B>
+inline constexpr bool isMixedComplexPair = isComplexPair<A, B> && !zthalf::areMadeOfHalves<operandOf<A>, operandOf<B>>;
+
+ZTHALF_INLINE fp16binary_t element(std::uint16_t bits) { return {bits}; }
+ZTHALF_INLINE std::complex<fp16binary_t> element(zthalf::complexHalf z) { return {{z.re}, {z.im}}; }
+
+// Whether an element, or either of its parts, is a NaN.
+ZTHALF_INLINE bool isNaNElement(fp16binary_t x) { return zthalf::pattern::isNaN(x.bits); }
+ZTHALF_INLINE bool isNaNElement(std::complex<fp16binary_t> z) {
+  return isNaNElement(z.real()) | isNaNElement(z.imag());
+}
+
+}  // namespace half::scalar::emulated
