@@ -41,8 +41,9 @@ struct complexExtremumFold {
       chain.index = leaf.begin + 1;
       squaredLengths(leaf.tree + leaf.begin, leaf.length(), squares);
       for (unsigned long i = leaf.begin; i < leaf.end && !chain.held.isSettled(); ++i) {
-        if (!chain.held.isWorthAsking(squares[i - leaf.begin])) continue;
-        if (chain.held.takeIfAhead(leaf.tree[i])) chain.index = i + 1;
+        const float square = squares[i - leaf.begin];
+        if (!chain.held.isWorthAsking(square)) continue;
+        if (chain.held.takeIfAhead(leaf.tree[i], square)) chain.index = i + 1;
       }
       results[l] = chain;
     }
@@ -96,7 +97,7 @@ class complexExtremumRows {
     squaredLengths_(elements, length, squares);
     for (unsigned long j = 0; j < length; ++j) {
       if (!held_[j].isWorthAsking(squares[j]) || held_[j].isSettled()) continue;
-      if (held_[j].takeIfAhead(elements[j])) combinations_[j] = at.combination;
+      if (held_[j].takeIfAhead(elements[j], squares[j])) combinations_[j] = at.combination;
     }
   }
 

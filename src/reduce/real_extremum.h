@@ -28,6 +28,21 @@ struct smallestPlacePass {
   }
 };
 
+// The same with the first position that has the place: the smallest of numbers with the place above the position.
+template <class Kind>
+struct firstSmallestPass {
+  static constexpr bool isWide = true;
+  static constexpr unsigned long mostElements = 1 << 16;
+  ZTHALF_INLINE static void run(fp16binary_t const* src, unsigned long n, std::int32_t* result) {
+    const auto count = static_cast<std::int32_t>(n);
+    std::int32_t smallest = std::int32_t{zthalf::lastPlace} * 65536 + 65535;
+    for (std::int32_t i = 0; i < count; ++i) {
+      smallest = zthalf::smallerOf(smallest, placeOf<Kind>(src[i].bits) * 65536 + i);
+    }
+    *result = smallest;
+  }
+};
+
 // An element's place and its position among those looked at.
 struct placedElement {
   std::int16_t place;
@@ -41,22 +56,22 @@ ZTHALF_INLINE bool replaces(std::int16_t place, std::int16_t heldPlace) {
   return place < heldPlace;
 }
 
-// The search: over long stretches only the smallest place is asked for, in lanes. The first stretch that has it is then
-// cut down until the element can be looked for one by one.
+// The search: over long stretches only the smallest place is asked for, and the first stretch that has it is then
+// searched for the element.
 template <class Kind>
 class realExtremumSearch {
  public:
   // Of at least one element.
   placedElement among(fp16binary_t const* src, unsigned long n) const {
-    if (n <= aFew) return amongAFew(src, n);
-    placedElement found{smallestOf(src, std::min(n, stretch)), 0};
-    for (unsigned long begin = stretch; begin < n && found.place != zthalf::firstPlace; begin += stretch) {
+    if (n <= stretch) return first(src, n);
+    std::int16_t smallest = smallestOf(src, stretch);
+    unsigned long at = 0;
+    for (unsigned long begin = stretch; begin < n && smallest != zthalf::firstPlace; begin += stretch) {
       const std::int16_t place = smallestOf(src + begin, std::min(n - begin, stretch));
-      if (place < found.place) found = {place, begin};
+      if (place < smallest) smallest = place, at = begin;
     }
-    if (found.place == zthalf::lastPlace) return {found.place, n - 1};
-    found.position += firstWith(found.place, src + found.position, std::min(n - found.position, stretch));
-    return found;
+    if (smallest == zthalf::lastPlace) return {smallest, n - 1};
+    return {smallest, at + first(src + at, std::min(n - at, stretch)).position};
   }
 
   // The same in pieces that several threads take. How it is cut follows from the number of elements.
@@ -76,9 +91,9 @@ class realExtremumSearch {
   }
 
  private:
-  static constexpr unsigned long aFew = 24;
   static constexpr unsigned long stretch = 2048;
-  static constexpr unsigned long shortStretch = 64;
+  static_assert(stretch <= firstSmallestPass<Kind>::mostElements);
+  static constexpr unsigned long aFew = 8;                   // not worth a call
   static constexpr unsigned long elementsPerTask = 1 << 18;  // 512 KiB, some 20 microseconds
 
   std::int16_t smallestOf(fp16binary_t const* src, unsigned long n) const {
@@ -87,25 +102,18 @@ class realExtremumSearch {
     return place;
   }
 
-  placedElement amongAFew(fp16binary_t const* src, unsigned long n) const {
-    placedElement found{placeOf<Kind>(src[0].bits), 0};
-    for (unsigned long i = 1; i < n; ++i) {
-      const std::int16_t place = placeOf<Kind>(src[i].bits);
-      if (replaces<Kind>(place, found.place)) found = {place, i};
-    }
-    return found;
-  }
-
-  // It must be there, and be the smallest.
-  unsigned long firstWith(std::int16_t place, fp16binary_t const* src, unsigned long n) const {
-    unsigned long i = 0;
-    while (smallestOf(src + i, std::min(n - i, shortStretch)) != place) i += shortStretch;
-    while (placeOf<Kind>(src[i].bits) != place) ++i;
-    return i;
+  // Of nothing but omitted NaNs the last one.
+  placedElement first(fp16binary_t const* src, unsigned long n) const {
+    std::int32_t found;
+    n <= aFew ? firstSmallestPass<Kind>::run(src, n, &found) : first_(src, n, &found);
+    const auto place = static_cast<std::int16_t>(found >> 16);
+    return {place, place == zthalf::lastPlace ? n - 1 : static_cast<unsigned long>(found & 0xFFFF)};
   }
 
   void (*smallest_)(fp16binary_t const*, unsigned long, std::int16_t*) =
       zthalf::leveled<smallestPlacePass<Kind>, fp16binary_t const*, unsigned long, std::int16_t*>::chosen();
+  void (*first_)(fp16binary_t const*, unsigned long, std::int32_t*) =
+      zthalf::leveled<firstSmallestPass<Kind>, fp16binary_t const*, unsigned long, std::int32_t*>::chosen();
 };
 
 }  // namespace half_utils

@@ -60,7 +60,9 @@ class realExtremumRows {
   using source = fp16binary_t;
   static constexpr unsigned long widest = 1024;
 
-  realExtremumRows(fp16binary_t const* first, unsigned long length) : first_(first), length_(length) {
+  // Few outputs would fill no wide register; they are done in narrow ones.
+  realExtremumRows(fp16binary_t const* first, unsigned long length)
+      : first_(first), length_(length), step_(length < 32 ? &stepPass::base : stepPass::chosen()) {
     clearLanes();
     for (unsigned long j = 0; j < length; ++j) {
       patterns_[j] = first[j].bits;
@@ -82,6 +84,9 @@ class realExtremumRows {
   }
 
  private:
+  using stepPass = zthalf::leveled<rowStepPass<Kind>, fp16binary_t const*, unsigned long, std::uint16_t, std::int16_t*,
+                                   std::uint16_t*, std::uint16_t*>;
+
   struct total {
     std::int16_t place;
     std::uint16_t pattern;
@@ -107,9 +112,7 @@ class realExtremumRows {
   std::int16_t places_[widest];
   std::uint16_t patterns_[widest], steps_[widest];
   total totals_[widest];
-  void (*step_)(fp16binary_t const*, unsigned long, std::uint16_t, std::int16_t*, std::uint16_t*,
-                std::uint16_t*) = zthalf::leveled<rowStepPass<Kind>, fp16binary_t const*, unsigned long, std::uint16_t,
-                                                  std::int16_t*, std::uint16_t*, std::uint16_t*>::chosen();
+  void (*step_)(fp16binary_t const*, unsigned long, std::uint16_t, std::int16_t*, std::uint16_t*, std::uint16_t*);
 };
 
 }  // namespace half_utils
