@@ -48,8 +48,8 @@ reference::resultBits bitsOfResult(std::complex<T> z) {
 inline reference::reductionKind kindOf(std::string_view function, bool isComplex) {
   using reference::folding;
   const folding op = function.starts_with("sum")    ? folding::sum
-                       : function.starts_with("prod") ? folding::prod
-                                                      : folding::mean;
+                     : function.starts_with("prod") ? folding::prod
+                                                    : folding::mean;
   return {op, function.ends_with("OmitNaN"), isComplex};
 }
 
