@@ -71,7 +71,7 @@ class leafBatch {
 
  private:
   unsigned count_ = 0, next_ = 0;
-  leafSpan<source> leaves_[batchLeaves];
+  leafSpan<source> leaves_[batchLeaves] = {};
   accumulator results_[batchLeaves];
 };
 

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstring>
+#include <iterator>
 #include <string_view>
 #include <tuple>
 #include <type_traits>
@@ -168,6 +169,115 @@ void sweep(std::string_view name, expandingBinary<Result, Left, Right, Out> entr
   hash.print(name);
 }
 
+// Whether all parts lie between 1/2 and 2: chains of them stay in the range of half for a while.
+template <class In>
+bool isModerate(In const& element) {
+  std::uint16_t parts[sizeof(In) / sizeof(std::uint16_t)];
+  std::memcpy(parts, &element, sizeof parts);
+  return std::all_of(std::begin(parts), std::end(parts), [](std::uint16_t p) { return (p & 0x7800) == 0x3800; });
+}
+
+// What is reduced: moderate numbers, and at every so many places anything. With 1 there is nothing else, with 0 nothing
+// but numbers.
+template <class In>
+std::vector<storage<In>> reductionData(std::size_t count, std::size_t every) {
+  const auto all = inputs<In>::sweep();
+  std::vector<storage<In>> moderate, some(count);
+  std::copy_if(all.begin(), all.end(), std::back_inserter(moderate), isModerate<storage<In>>);
+  for (std::size_t i = 0; i < count; ++i) {
+    auto const& from = every != 0 && i % every == every - 1 ? all : moderate;
+    some[i] = from[(i * 25173 + i / from.size()) % from.size()];
+  }
+  return some;
+}
+
+inline constexpr std::size_t densities[] = {0, 1, 97, 1500};
+
+// Whole arrays: all pairs of notable values, and counts around the lengths of leaves and where a tree forks.
+template <class In, class Call>
+void sweepWholeReductions(Call call) {
+  const auto notable = gridOf<In>();
+  for (auto const& first : notable) {
+    for (auto const& second : notable) call(std::vector<storage<In>>{first, second});
+  }
+  for (const std::size_t count : {1, 7, 128, 255, 256, 257, 300, 513, 1000, 4111, 70001}) {
+    for (const std::size_t every : densities) call(reductionData<In>(count, every));
+  }
+}
+
+// Shapes of alternating dimensions, reduced in both forms; each output has elements.
+template <class In, class Call>
+void sweepReductionsAlongDimensions(Call call) {
+  const std::vector<unsigned long> shapes[] = {{300, 40},    {40, 300},       {5, 1100}, {1100, 5},
+                                               {3, 4, 5, 6}, {2, 3, 2, 3, 4}, {35000, 2}};
+  for (std::vector<unsigned long> dims : shapes) {
+    unsigned long count = 1;
+    for (const unsigned long size : dims) count *= size;
+    for (const std::size_t every : densities) {
+      for (const bool firstReduced : {true, false}) {
+        unsigned long outputs = 1;
+        for (std::size_t d = firstReduced ? 1 : 0; d < dims.size(); d += 2) outputs *= dims[d];
+        call(reductionData<In>(count, every), dims, firstReduced, outputs);
+      }
+    }
+  }
+}
+
+template <class In, class Out>
+void sweepReduction(std::string_view name, void (*entry)(In*, Out*, unsigned long)) {
+  resultHash hash;
+  sweepWholeReductions<In>([&](std::vector<storage<In>> src) {
+    storage<Out> result{};
+    entry(as<In>(src.data()), as<Out>(&result), src.size());
+    hash.add(result);
+  });
+  hash.print(name);
+}
+
+template <class In, class Out>
+void sweepReduction(std::string_view name, void (*entry)(In*, Out*, unsigned long, unsigned long*, bool)) {
+  resultHash hash;
+  sweepReductionsAlongDimensions<In>(
+      [&](std::vector<storage<In>> src, std::vector<unsigned long>& dims, bool firstReduced, unsigned long outputs) {
+        std::vector<storage<Out>> results(outputs);
+        entry(as<In>(src.data()), as<Out>(results.data()), dims.size(), dims.data(), firstReduced);
+        hash.add(results.data(), results.size());
+      });
+  hash.print(name);
+}
+
+// The same with the places of the results.
+template <class In, class Out>
+void sweepReduction(std::string_view name, void (*entry)(In*, Out*, double*, unsigned long)) {
+  resultHash hash;
+  sweepWholeReductions<In>([&](std::vector<storage<In>> src) {
+    storage<Out> result{};
+    double index = 0;
+    entry(as<In>(src.data()), as<Out>(&result), &index, src.size());
+    hash.add(result);
+    hash.add(index);
+  });
+  hash.print(name);
+}
+
+template <class In, class Out>
+void sweepReduction(std::string_view name,
+                    void (*entry)(In*, Out*, double*, unsigned long, unsigned long*, bool, bool)) {
+  resultHash hash;
+  sweepReductionsAlongDimensions<In>(
+      [&](std::vector<storage<In>> src, std::vector<unsigned long>& dims, bool firstReduced, unsigned long outputs) {
+        for (const bool linear : {false, true}) {
+          std::vector<storage<Out>> results(outputs);
+          std::vector<double> indices(outputs);
+          entry(as<In>(src.data()), as<Out>(results.data()), indices.data(), dims.size(), dims.data(), firstReduced,
+                linear);
+          hash.add(results.data(), results.size());
+          hash.add(indices.data(), indices.size());
+        }
+      });
+  hash.print(name);
+}
+
 // All points of a grid, one call for each: the operands' lists of values, first operand fastest.
 template <class... Args, class Visit>
 void forEachPoint(std::tuple<std::vector<storage<Args>>...> const& lists, Visit visit) {
@@ -197,78 +307,6 @@ void sweepScalar(std::string_view name, Function f) {
     forEachPoint<Args...>(std::tuple{gridOf<Args>()...}, [&](Args... x) { hash.add(f(x...)); });
   }
   hash.print(name);
-}
-
-// The source of the reductions: the sweep, and behind it notable values again, so that a whole array has ties.
-template <class T>
-std::vector<storage<T>> reductionSource() {
-  auto src = inputs<T>::sweep();
-  const auto notable = gridOf<T>();
-  src.insert(src.end(), notable.begin(), notable.end());
-  return src;
-}
-
-// A whole array to one element: every prefix up to some leaves of the tree, then larger pieces from several places on.
-template <class In, class Out, class... Index, class Reduce>
-void sweepWhole(std::string_view name, Reduce reduce) {
-  auto src = reductionSource<In>();
-  resultHash hash;
-  const auto call = [&](std::size_t first, unsigned long n) {
-    storage<Out> result{};
-    std::tuple<Index...> index{};
-    std::apply([&](auto&... i) { reduce(as<In>(src.data() + first), as<Out>(&result), &i..., n); }, index);
-    hash.add(result);
-    std::apply([&](auto... i) { (hash.add(i), ...); }, index);
-  };
-  for (unsigned long n = 1; n <= 600; ++n) call(n * 97 % 1000, n);
-  for (std::size_t first = 0; first + 20000 <= src.size(); first += 4999) call(first, 1000 + first % 19000);
-  call(0, src.size());
-  hash.print(name);
-}
-
-// Along dimensions, in both forms.
-template <class In, class Out, class... Index, class Reduce>
-void sweepAlong(std::string_view name, Reduce reduce) {
-  auto src = reductionSource<In>();
-  resultHash hash;
-  for (std::vector<unsigned long> dims : {std::vector<unsigned long>{300, 200}, {7, 5, 11, 3, 13}, {2, 1100, 3, 4}}) {
-    for (const bool firstReduced : {true, false}) {
-      std::size_t outputs = 1;
-      for (std::size_t d = firstReduced ? 1 : 0; d < dims.size(); d += 2) outputs *= dims[d];
-      std::vector<storage<Out>> dst(outputs);
-      std::tuple<std::vector<Index>...> index{std::vector<Index>(outputs)...};
-      std::apply(
-          [&](auto&... i) {
-            reduce(as<In>(src.data()), as<Out>(dst.data()), i.data()..., dims.size(), dims.data(), firstReduced);
-          },
-          index);
-      hash.add(dst.data(), dst.size());
-      std::apply([&](auto&... i) { (hash.add(i.data(), i.size()), ...); }, index);
-    }
-  }
-  hash.print(name);
-}
-
-template <class In, class Out>
-void sweepReduction(std::string_view name, void (*entry)(In*, Out*, unsigned long)) {
-  sweepWhole<In, Out>(name, entry);
-}
-template <class In, class Out>
-void sweepReduction(std::string_view name, void (*entry)(In*, Out*, double*, unsigned long)) {
-  sweepWhole<In, Out, double>(name, entry);
-}
-template <class In, class Out>
-void sweepReduction(std::string_view name, void (*entry)(In*, Out*, unsigned long, unsigned long*, bool)) {
-  sweepAlong<In, Out>(name, entry);
-}
-// The index along the reduced dimensions and in the whole array.
-template <class In, class Out>
-void sweepReduction(std::string_view name,
-                    void (*entry)(In*, Out*, double*, unsigned long, unsigned long*, bool, bool)) {
-  bool linear = false;
-  const auto reduce = [&](In* src, Out* dst, double* index, unsigned long ndims, unsigned long* dims,
-                          bool firstReduced) { entry(src, dst, index, ndims, dims, firstReduced, linear = !linear); };
-  sweepAlong<In, Out, double>(name, reduce);
 }
 
 }  // namespace zthalf::golden

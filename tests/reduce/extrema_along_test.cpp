@@ -16,7 +16,7 @@ using namespace zthalf::testing::steps;
 std::string textOf(std::string const& name, sizeList const& dims, bool firstReduced) {
   std::string text = name;
   text += firstReduced ? " of columns" : " of rows";
-  for (const unsigned long size : dims) text += " " + std::to_string(size);
+  for (const unsigned long size : dims) (text += ' ') += std::to_string(size);
   return text;
 }
 
