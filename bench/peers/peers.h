@@ -1,6 +1,7 @@
 // What other half-precision code offers for the operations measured here.
 #pragma once
 
+#include <complex>
 #include <string>
 #include <vector>
 
@@ -19,6 +20,10 @@ struct peerPasses {
   void (*halfToInt32)(half_t*, int*, unsigned long);
   void (*floor)(half_t*, half_t*, unsigned long);
   void (*plus)(half_t*, half_t*, half_t*, unsigned long);
+  void (*smaller)(half_t*, half_t*, half_t*, unsigned long);
+  void (*smallest)(half_t*, half_t*, unsigned long);            // to one element
+  void (*positionOfSmallest)(half_t*, double*, unsigned long);  // from 1
+  void (*shortest)(std::complex<half_t>*, std::complex<half_t>*, unsigned long);
 };
 
 #define ZTHALF_PEER_JOIN_(a, b) a##b
