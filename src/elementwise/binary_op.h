@@ -31,27 +31,30 @@ ZTHALF_INLINE T from(T value, unsigned long) {
   return value;
 }
 
-// Whether the functor has a branch-free plain() for these elements, whose result is final unless isUnsettled() says no.
+// Whether the functor has two forms for passes in lanes: plain(), quick and now and then in doubt, and careful().
 template <class Ftor, class A, class B>
 concept hasPlainForm = requires(Ftor f, A a, B b) {
-  f.plain(a, b);
+  f.plain(a, b).doubt;
 };
 
-// Results of the plain form, kept only where no NaN is among them. A block is finished before any of it is stored, so
-// the output may be one of the operands, but not overlap one in another way.
+// Plain results, kept where none of a block is in doubt. A block is finished before any of it is stored, so the output
+// may be one of the operands, but not overlap one in another way.
 template <class Ftor, class T1, class T2, class R>
 ZTHALF_INLINE void plainBlocks(T1 a, T2 b, R* c, unsigned long n) {
   constexpr unsigned long blockSize = 64;
   R block[blockSize];
   for (unsigned long begin = 0; begin < n; begin += blockSize) {
     const unsigned long size = std::min(blockSize, n - begin);
-    unsigned short anyNaN = 0;
+    unsigned short doubt = 0;
     for (unsigned long i = 0; i < size; ++i) {
-      block[i] = Ftor{}.plain(elementOf(a, begin + i), elementOf(b, begin + i));
-      anyNaN = static_cast<unsigned short>(anyNaN | Ftor::isUnsettled(block[i]));
+      const auto result = Ftor{}.plain(elementOf(a, begin + i), elementOf(b, begin + i));
+      block[i] = result.value;
+      doubt = static_cast<unsigned short>(doubt | result.doubt);
     }
-    if (__builtin_expect(anyNaN != 0, false)) {
-      for (unsigned long i = 0; i < size; ++i) block[i] = Ftor{}(elementOf(a, begin + i), elementOf(b, begin + i));
+    if (doubt != 0) {
+      for (unsigned long i = 0; i < size; ++i) {
+        block[i] = Ftor{}.careful(elementOf(a, begin + i), elementOf(b, begin + i));
+      }
     }
     for (unsigned long i = 0; i < size; ++i) c[begin + i] = block[i];
   }

@@ -4,6 +4,7 @@
 
 #include <concepts>
 
+#include "scalar/complex/product_lanes.h"
 #include "scalar/functors/operands.h"
 #include "scalar/mixed_arithmetic.h"
 
@@ -39,12 +40,20 @@ struct timesFtor {
     return element(zthalf::anyProduct(plainOperand(x), plainOperand(y)));
   }
 
-  // In lanes, but for the sign of a NaN.
+  // In lanes: what most data want, and every case.
   template <std::same_as<complexHalf> Z>
-  ZTHALF_INLINE complexHalf plain(Z x, Z y) const {
-    return element(zthalf::plainComplexProduct(plainOperand(x), plainOperand(y)));
+  ZTHALF_INLINE auto plain(Z x, Z y) const {
+    const zthalf::productInDoubt product = zthalf::plainProductInLanes(plainOperand(x), plainOperand(y));
+    struct {
+      complexHalf value;
+      bool doubt;
+    } result{element(product.value), product.doubt};
+    return result;
   }
-  ZTHALF_INLINE static bool isUnsettled(complexHalf z) { return isNaNElement(z); }
+  template <std::same_as<complexHalf> Z>
+  ZTHALF_INLINE complexHalf careful(Z x, Z y) const {
+    return element(zthalf::productInLanes(plainOperand(x), plainOperand(y)));
+  }
 };
 
 struct rdivideFtor {
