@@ -12,21 +12,25 @@ namespace zthalf {
 
 struct productInDoubt {
   complexHalf value;
-  bool doubt;  // then the value counts for nothing
+  std::uint32_t doubt;  // not zero: the value counts for nothing
 };
+
+ZTHALF_INLINE std::uint32_t doubtOfSum(float s, float p, float q) {
+  const float e = ((s - p) - q) + ((s - q) - p);
+  const auto isTie = maskOf<std::uint32_t>((bitsOf(s) & 0xFFFu) == 0);
+  return (isTie & maskOf<std::uint32_t>(e != 0)) | maskOf<std::uint32_t>(s != s);
+}
 
 // The four products and two sums alone. In doubt where a part is zero, where a NaN comes out, or where the rounding of
 // a sum to half would have to be moved: only sums whose last 12 bits are zero can be such ties.
 ZTHALF_INLINE productInDoubt plainProductInLanes(complexHalf x, complexHalf y) {
   const float a = widen<float>(x.re), b = widen<float>(x.im), c = widen<float>(y.re), d = widen<float>(y.im);
-  bool doubt = pattern::isZero(x.re) | pattern::isZero(x.im) | pattern::isZero(y.re) | pattern::isZero(y.im);
-  const auto rounded = [&doubt](float p, float q) {
-    const float s = p + q;
-    const float e = ((s - p) - q) + ((s - q) - p);
-    doubt |= (((bitsOf(s) & 0xFFFu) == 0) & (e != 0)) | (s != s);
-    return narrow(s);
-  };
-  return {{rounded(a * c, withSignFlipped(b * d)), rounded(a * d, b * c)}, doubt};
+  const float re = a * c - b * d;
+  const float im = a * d + b * c;
+  const auto anyZero = maskOf<std::uint32_t>(a == 0) | maskOf<std::uint32_t>(b == 0) | maskOf<std::uint32_t>(c == 0) |
+                       maskOf<std::uint32_t>(d == 0);
+  const std::uint32_t doubt = anyZero | doubtOfSum(re, a * c, withSignFlipped(b * d)) | doubtOfSum(im, a * d, b * c);
+  return {{narrow(re), narrow(im)}, doubt};
 }
 
 // A term of a part: its value, or minus zero where it takes no part, which no sum notices; and the sign of its NaN.

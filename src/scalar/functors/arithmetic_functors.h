@@ -3,8 +3,9 @@
 #pragma once
 
 #include <concepts>
+#include <type_traits>
 
-#include "scalar/complex/product_lanes.h"
+#include "scalar/functors/complex_product_blocks.h"
 #include "scalar/functors/operands.h"
 #include "scalar/mixed_arithmetic.h"
 
@@ -40,19 +41,11 @@ struct timesFtor {
     return element(zthalf::anyProduct(plainOperand(x), plainOperand(y)));
   }
 
-  // In lanes: what most data want, and every case.
-  template <std::same_as<complexHalf> Z>
-  ZTHALF_INLINE auto plain(Z x, Z y) const {
-    const zthalf::productInDoubt product = zthalf::plainProductInLanes(plainOperand(x), plainOperand(y));
-    struct {
-      complexHalf value;
-      bool doubt;
-    } result{element(product.value), product.doubt};
-    return result;
-  }
-  template <std::same_as<complexHalf> Z>
-  ZTHALF_INLINE complexHalf careful(Z x, Z y) const {
-    return element(zthalf::productInLanes(plainOperand(x), plainOperand(y)));
+  // Two complex halves, in vector lanes.
+  template <class T1, class T2>
+  requires(std::same_as<std::remove_pointer_t<T1>, complexHalf>&& std::same_as<std::remove_pointer_t<T2>, complexHalf>)
+      ZTHALF_INLINE static void runInBlocks(T1 a, T2 b, complexHalf* c, unsigned long n) {
+    complexProductBlocks(a, b, c, n);
   }
 };
 
