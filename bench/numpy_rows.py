@@ -4,6 +4,7 @@ The destination exists beforehand and is written in place, so that no allocation
 """
 import json
 import random
+import re
 import sys
 import time
 
@@ -28,6 +29,9 @@ EXPANDED = {'expand-none-1000x1000': ((1000, 1000), (1000, 1000)),
             'expand-3x1-with-3x100000': ((3, 1), (3, 100000)),
             'expand-3x1-with-1x100000': ((3, 1), (1, 100000)),
             'expand-20x1-with-20x20000': ((20, 1), (20, 20000))}
+REDUCTIONS = {'sum': (np.sum, np.nansum), 'mean': (np.mean, np.nanmean), 'prod': (np.prod, np.nanprod)}
+ACCUMULATORS = {'half': np.float16, 'single': np.float32, 'double': np.float64}
+REDUCTION = re.compile('(sum|mean|prod)(-columns|-rows)?-(half|single|double)(-omitnan)?')
 
 
 def halves(shape):
@@ -63,6 +67,14 @@ def call_for(row, n):
     if row in ('plus', 'plus-value'):
         a, b, c = halves(1 if row == 'plus-value' else n), halves(n), np.empty(n, np.float16)
         return lambda: np.add(a, b, out=c)
+    reduction = REDUCTION.fullmatch(row)
+    if reduction:
+        op, form, accumulator, omits = reduction.groups()
+        function, dtype = REDUCTIONS[op][bool(omits)], ACCUMULATORS[accumulator]
+        side = int(n ** 0.5)
+        source = halves((side, n // side) if form else n)
+        axis = {None: None, '-columns': 0, '-rows': 1}[form]
+        return lambda: function(source, axis=axis, dtype=dtype)
     if row in EXPANDED:
         a, b = (halves(shape) for shape in EXPANDED[row])
         c = np.empty(np.broadcast_shapes(a.shape, b.shape), np.float16, order='F')

@@ -21,6 +21,10 @@ namespace half_ptr {
 #define ZTHALF_DECLARE_QUERY(entry, facade, In, instance) extern ZTHALF_API query_entry<half::storage::In>* entry##Ptr;
 #define ZTHALF_DECLARE_BINARY(op, Left, Right, Out) \
   extern ZTHALF_API binary_entry<half::element::Left, half::element::Right, half::element::Out>* op##Left##Right##Ptr;
+#define ZTHALF_DECLARE_SIMPLE_REDUCTION(entry, facade, function, In, Out, Accumulator) \
+  extern ZTHALF_API unary_entry<half::element::In, half::element::Out>* entry##Ptr;
+#define ZTHALF_DECLARE_REDUCTION(entry, facade, function, In, Out, Accumulator) \
+  extern ZTHALF_API reduction_entry<half::element::In, half::element::Out>* entry##Ptr;
 
 #define ZTHALF_DECLARE_REMAINDER(op, Left, Right, Out) \
   extern ZTHALF_API binary_entry<half::storage::Left, half::storage::Right, half::storage::Out>* op##Left##Right##Ptr;
@@ -31,6 +35,9 @@ ZTHALF_TWO_OUT_ENTRIES(ZTHALF_DECLARE_TWO_OUT)
 ZTHALF_QUERY_ENTRIES(ZTHALF_DECLARE_QUERY)
 ZTHALF_BINARY_ENTRIES(ZTHALF_DECLARE_BINARY)
 ZTHALF_REMAINDER_ENTRIES(ZTHALF_DECLARE_REMAINDER)
+ZTHALF_SIMPLE_REDUCTION_ENTRIES(ZTHALF_DECLARE_SIMPLE_REDUCTION)
+ZTHALF_SIMPLE_OMITNAN_REDUCTION_ENTRIES(ZTHALF_DECLARE_SIMPLE_REDUCTION)
+ZTHALF_REDUCTION_ENTRIES(ZTHALF_DECLARE_REDUCTION)
 
 #undef ZTHALF_DECLARE_UNARY
 #undef ZTHALF_DECLARE_EARLY_EXIT
@@ -38,6 +45,8 @@ ZTHALF_REMAINDER_ENTRIES(ZTHALF_DECLARE_REMAINDER)
 #undef ZTHALF_DECLARE_QUERY
 #undef ZTHALF_DECLARE_BINARY
 #undef ZTHALF_DECLARE_REMAINDER
+#undef ZTHALF_DECLARE_SIMPLE_REDUCTION
+#undef ZTHALF_DECLARE_REDUCTION
 
 /// 0 when the library is loaded, 1 from the first VLInitialize_half or CPU_Dispatch on. No operation reads it.
 extern ZTHALF_API unsigned char initialized;

@@ -5,6 +5,13 @@
 #include "zthalf/detail/entries.h"
 #include "zthalf/detail/export.h"
 
+/// A floating-point type as an argument.
+enum FloatTypeEnum {
+  FloatTypeHalf = 0,    ///< half
+  FloatTypeSingle = 1,  ///< float
+  FloatTypeDouble = 2   ///< double
+};
+
 /// Operations on arrays of half_t and std::complex<half_t>.
 ///
 /// Common to all of them, where a function does not say otherwise:
@@ -15,7 +22,8 @@
 ///   computes it, bit for bit, whatever the processor, the array's length or its alignment.
 /// - Elements are processed in ascending order. Source and destination may be the same array if their elements have the
 ///   same size; where they overlap in another way, each element is read after the earlier ones have been written.
-/// - Work is done on the calling thread. Calls on different arrays may run at the same time.
+/// - Work is done on the calling thread; large reductions take several. Calls on different arrays may run at the same
+/// time.
 /// - There are no errors and nothing is thrown: NaN and infinity are ordinary values.
 namespace half_vector {
 
@@ -158,5 +166,60 @@ ZTHALF_API void ulp(double* a, half_t* b, double* out, unsigned long n);
 ZTHALF_API void ulp(double* a, float* b, double* out, unsigned long n);
 ZTHALF_API void ulp(double* a, double* b, double* out, unsigned long n);
 ZTHALF_API void ulp(std::complex<half_t>* a, std::complex<half_t>* b, double* out, unsigned long n);
+
+/// sum, prod, mean: reduces src to its sums, products or means, the whole array or some of its dimensions.
+///
+/// Shape. `dims` has ndims sizes in memory order, first dimension fastest, in which reduced and kept dimensions take
+/// turns; neighbours of one kind are merged into one before the call. With firstDimReduced dims[0] is a reduced one,
+/// and ndims of 1 then reduces the whole array of dims[0] elements. Without it dims[0] is kept; ndims of 1 then reduces
+/// nothing, and each element is combined with 0 or 1 once. src has as many elements as the product of all sizes, dst as
+/// many as the product of the kept ones, in the order of the kept dimensions. The two must not overlap.
+///
+/// Types. With isComplex the elements are std::complex<half_t>. What dst holds and where the roundings fall:
+///
+///     outType            accumType          accumulator and output
+///     FloatTypeDouble    any                double, unrounded; dst holds double or std::complex<double>
+///     another            FloatTypeSingle    float, rounded to half once at the end
+///     another            another            half: the result of every step is rounded to half
+///
+/// Order. The result is a function of the data and the shape, whatever the processor and the number of threads:
+/// - With firstDimReduced each run of dims[0] neighbours is a tree. More than 256 elements are cut in the middle, the
+///   first half being the shorter one, and the results of the halves are combined, left with right; up to 256 elements
+///   are combined from first to last, beginning with 0 or 1. Where an output has several runs their trees are combined
+///   from first to last, beginning with 0 or 1.
+/// - Without it each output is one chain from its first element to its last, beginning with 0 or 1.
+///
+/// Complex sums are sums of the parts. Complex products with half accumulators are those of the operator * of complex
+/// halves; in float and double a part that is zero takes no part in the product, so that no NaN comes from it and an
+/// infinity, and the general case is rounded once in float, and fused in double.
+///
+/// A mean is the sum divided by the number of elements that went into it. The division is in double: a half sum's
+/// quotient is rounded to half, that of a float sum to float and then to half. The mean of nothing is a NaN, 0x7E00 in
+/// half, with an imaginary part of +0 if complex.
+///
+/// omitNaN. In a mean NaN elements, or complex ones with a NaN in either part, are left out of sum and count; a NaN
+/// that the sum itself becomes stays. In sums and products each step looks at both of its operands: a NaN is dropped
+/// for the other operand, two NaNs give 0 or 1. So a sum that has become a NaN, infinity minus infinity, is lost with
+/// all that went into it when a next value comes; where that happens depends on the order told above.
+///
+/// Without omitNaN one NaN makes the result a NaN. Its sign, and the payload of a double, is that of the first NaN in
+/// the order of the additions, unless a signalling one comes later.
+///
+/// Nothing is reported. Dimensional forms allocate small working arrays: a failure to get them throws std::bad_alloc,
+/// or std::length_error for an absurd number of dimensions. Large arrays are reduced on several threads.
+ZTHALF_API void sum(void* src, void* dst, unsigned long ndims, unsigned long* dims, bool firstDimReduced,
+                    bool isComplex, bool omitNaN, FloatTypeEnum accumType, FloatTypeEnum outType);
+ZTHALF_API void prod(void* src, void* dst, unsigned long ndims, unsigned long* dims, bool firstDimReduced,
+                     bool isComplex, bool omitNaN, FloatTypeEnum accumType, FloatTypeEnum outType);
+ZTHALF_API void mean(void* src, void* dst, unsigned long ndims, unsigned long* dims, bool firstDimReduced,
+                     bool isComplex, bool omitNaN, FloatTypeEnum accumType, FloatTypeEnum outType);
+
+/// sumSimpleReduceHalf, sumSimpleReduceSingle, sumSimpleReduceDouble and the same for prod and mean: the whole array of
+/// n elements, real or complex, NaNs kept, to *dst, which is double or std::complex<double> for the Double ones. They
+/// allocate nothing of their own.
+#define ZTHALF_DECLARE_SIMPLE_REDUCTION(entry, facade, function, In, Out, Accumulator) \
+  ZTHALF_API void facade(element::In* src, element::Out* dst, unsigned long n);
+ZTHALF_SIMPLE_REDUCTION_ENTRIES(ZTHALF_DECLARE_SIMPLE_REDUCTION)
+#undef ZTHALF_DECLARE_SIMPLE_REDUCTION
 
 }  // namespace half_vector

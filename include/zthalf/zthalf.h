@@ -3,6 +3,7 @@
 
 #include "zthalf/half_ops.h"
 #include "zthalf/half_ptr.h"
+#include "zthalf/half_reductions.h"
 #include "zthalf/half_scalar.h"
 #include "zthalf/half_t.h"
 #include "zthalf/half_vector.h"

@@ -79,6 +79,20 @@ ZTHALF_INLINE Wide settled(Wide plain, Wide first, Wide second) {
   return plain != plain ? nan : plain;
 }
 
+// The same where the first operand is no signalling NaN, as the result of an earlier operation; by masks, for chains in
+// vector lanes.
+template <class Wide>
+ZTHALF_INLINE Wide settledAfterResult(Wide plain, Wide first, Wide second) {
+  using word = typename formatOf<Wide>::word;
+  constexpr word quiet = word{1} << (formatOf<Wide>::fractionWidth - 1);
+  const word firstNaN = maskOf<word>(first != first);
+  const word secondNaN = maskOf<word>(second != second);
+  const word signalling = maskOf<word>((bitsOf(second) & quiet) == 0);
+  const word nan = select(firstNaN, bitsOf(first), bitsOf(defaultNaN<Wide>));
+  const word settledNaN = select(secondNaN & (signalling | ~firstNaN), bitsOf(second) | quiet, nan);
+  return valueOf(select(maskOf<word>(plain != plain), settledNaN, bitsOf(plain)));
+}
+
 // The same for an operation on one operand.
 template <class Wide>
 ZTHALF_INLINE Wide settled(Wide plain, Wide operand) {

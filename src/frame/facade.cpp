@@ -53,6 +53,10 @@ T* bare(T* p) {
     half_ptr::op##Left##Right##Ptr(bare(a), bare(b), bare(c), na, ndimsA, dimsA, nb, ndimsB, dimsB, nc, ndimsC, \
                                    dimsC);                                                                      \
   }
+#define ZTHALF_FORWARD_SIMPLE_REDUCTION(entry, facade, function, In, Out, Accumulator) \
+  void facade(element::In* src, element::Out* dst, unsigned long n) {                  \
+    half_ptr::entry##Ptr(stored(src), stored(dst), n);                                 \
+  }
 
 ZTHALF_UNARY_ENTRIES(ZTHALF_FORWARD_UNARY)
 ZTHALF_EARLY_EXIT_ENTRIES(ZTHALF_FORWARD_EARLY_EXIT)
@@ -60,6 +64,7 @@ ZTHALF_TWO_OUT_ENTRIES(ZTHALF_FORWARD_TWO_OUT)
 ZTHALF_QUERY_ENTRIES(ZTHALF_FORWARD_QUERY)
 ZTHALF_BINARY_ENTRIES(ZTHALF_FORWARD_BINARY)
 ZTHALF_REMAINDER_ENTRIES(ZTHALF_FORWARD_REMAINDER)
+ZTHALF_SIMPLE_REDUCTION_ENTRIES(ZTHALF_FORWARD_SIMPLE_REDUCTION)
 
 #undef ZTHALF_FORWARD_UNARY
 #undef ZTHALF_FORWARD_EARLY_EXIT
@@ -67,5 +72,6 @@ ZTHALF_REMAINDER_ENTRIES(ZTHALF_FORWARD_REMAINDER)
 #undef ZTHALF_FORWARD_QUERY
 #undef ZTHALF_FORWARD_BINARY
 #undef ZTHALF_FORWARD_REMAINDER
+#undef ZTHALF_FORWARD_SIMPLE_REDUCTION
 
 }  // namespace half_vector

@@ -1,6 +1,7 @@
 // The table's variables, filled statically: no code runs to make them.
 #include "zthalf/half_ops.h"
 #include "zthalf/half_ptr.h"
+#include "zthalf/half_reductions.h"
 
 namespace half_ptr {
 
@@ -19,6 +20,11 @@ namespace element = half::element;
 #define ZTHALF_FILL_REMAINDER(op, Left, Right, Out)                                                   \
   binary_entry<half::storage::Left, half::storage::Right, half::storage::Out>* op##Left##Right##Ptr = \
       &half::op<half::storage::Left, half::storage::Right>;
+#define ZTHALF_FILL_SIMPLE_REDUCTION(entry, facade, function, In, Out, Accumulator) \
+  unary_entry<element::In, element::Out>* entry##Ptr = &half::function<element::In, element::Out, element::Accumulator>;
+#define ZTHALF_FILL_REDUCTION(entry, facade, function, In, Out, Accumulator) \
+  reduction_entry<element::In, element::Out>* entry##Ptr =                   \
+      &half::function<element::In, element::Out, element::Accumulator>;
 
 ZTHALF_UNARY_ENTRIES(ZTHALF_FILL_UNARY)
 ZTHALF_EARLY_EXIT_ENTRIES(ZTHALF_FILL_EARLY_EXIT)
@@ -26,6 +32,9 @@ ZTHALF_TWO_OUT_ENTRIES(ZTHALF_FILL_TWO_OUT)
 ZTHALF_QUERY_ENTRIES(ZTHALF_FILL_QUERY)
 ZTHALF_BINARY_ENTRIES(ZTHALF_FILL_BINARY)
 ZTHALF_REMAINDER_ENTRIES(ZTHALF_FILL_REMAINDER)
+ZTHALF_SIMPLE_REDUCTION_ENTRIES(ZTHALF_FILL_SIMPLE_REDUCTION)
+ZTHALF_SIMPLE_OMITNAN_REDUCTION_ENTRIES(ZTHALF_FILL_SIMPLE_REDUCTION)
+ZTHALF_REDUCTION_ENTRIES(ZTHALF_FILL_REDUCTION)
 
 #undef ZTHALF_FILL_UNARY
 #undef ZTHALF_FILL_EARLY_EXIT
@@ -33,5 +42,7 @@ ZTHALF_REMAINDER_ENTRIES(ZTHALF_FILL_REMAINDER)
 #undef ZTHALF_FILL_QUERY
 #undef ZTHALF_FILL_BINARY
 #undef ZTHALF_FILL_REMAINDER
+#undef ZTHALF_FILL_SIMPLE_REDUCTION
+#undef ZTHALF_FILL_REDUCTION
 
 }  // namespace half_ptr

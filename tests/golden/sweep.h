@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstring>
+#include <iterator>
 #include <string_view>
 #include <tuple>
 #include <type_traits>
@@ -165,6 +166,115 @@ void sweep(std::string_view name, expandingBinary<Result, Left, Right, Out> entr
   const unsigned long columnB[] = {b.size(), 1}, rowB[] = {1, b.size()};
   meet(a, b, columnA, rowB);
   meet(a, b, rowA, columnB);
+  hash.print(name);
+}
+
+// Whether all parts lie between 1/2 and 2: chains of them stay in the range of half for a while.
+template <class In>
+bool isModerate(In const& element) {
+  std::uint16_t parts[sizeof(In) / sizeof(std::uint16_t)];
+  std::memcpy(parts, &element, sizeof parts);
+  return std::all_of(std::begin(parts), std::end(parts), [](std::uint16_t p) { return (p & 0x7800) == 0x3800; });
+}
+
+// What is reduced: moderate numbers, and at every so many places anything. With 1 there is nothing else, with 0 nothing
+// but numbers.
+template <class In>
+std::vector<storage<In>> reductionData(std::size_t count, std::size_t every) {
+  const auto all = inputs<In>::sweep();
+  std::vector<storage<In>> moderate, some(count);
+  std::copy_if(all.begin(), all.end(), std::back_inserter(moderate), isModerate<storage<In>>);
+  for (std::size_t i = 0; i < count; ++i) {
+    auto const& from = every != 0 && i % every == every - 1 ? all : moderate;
+    some[i] = from[(i * 25173 + i / from.size()) % from.size()];
+  }
+  return some;
+}
+
+inline constexpr std::size_t densities[] = {0, 1, 97, 1500};
+
+// Whole arrays: all pairs of notable values, and counts around the lengths of leaves and where a tree forks.
+template <class In, class Call>
+void sweepWholeReductions(Call call) {
+  const auto notable = gridOf<In>();
+  for (auto const& first : notable) {
+    for (auto const& second : notable) call(std::vector<storage<In>>{first, second});
+  }
+  for (const std::size_t count : {1, 7, 128, 255, 256, 257, 300, 513, 1000, 4111, 70001}) {
+    for (const std::size_t every : densities) call(reductionData<In>(count, every));
+  }
+}
+
+// Shapes of alternating dimensions, reduced in both forms; each output has elements.
+template <class In, class Call>
+void sweepReductionsAlongDimensions(Call call) {
+  const std::vector<unsigned long> shapes[] = {{300, 40},    {40, 300},       {5, 1100}, {1100, 5},
+                                               {3, 4, 5, 6}, {2, 3, 2, 3, 4}, {35000, 2}};
+  for (std::vector<unsigned long> dims : shapes) {
+    unsigned long count = 1;
+    for (const unsigned long size : dims) count *= size;
+    for (const std::size_t every : densities) {
+      for (const bool firstReduced : {true, false}) {
+        unsigned long outputs = 1;
+        for (std::size_t d = firstReduced ? 1 : 0; d < dims.size(); d += 2) outputs *= dims[d];
+        call(reductionData<In>(count, every), dims, firstReduced, outputs);
+      }
+    }
+  }
+}
+
+template <class In, class Out>
+void sweepReduction(std::string_view name, void (*entry)(In*, Out*, unsigned long)) {
+  resultHash hash;
+  sweepWholeReductions<In>([&](std::vector<storage<In>> src) {
+    storage<Out> result{};
+    entry(as<In>(src.data()), as<Out>(&result), src.size());
+    hash.add(result);
+  });
+  hash.print(name);
+}
+
+template <class In, class Out>
+void sweepReduction(std::string_view name, void (*entry)(In*, Out*, unsigned long, unsigned long*, bool)) {
+  resultHash hash;
+  sweepReductionsAlongDimensions<In>(
+      [&](std::vector<storage<In>> src, std::vector<unsigned long>& dims, bool firstReduced, unsigned long outputs) {
+        std::vector<storage<Out>> results(outputs);
+        entry(as<In>(src.data()), as<Out>(results.data()), dims.size(), dims.data(), firstReduced);
+        hash.add(results.data(), results.size());
+      });
+  hash.print(name);
+}
+
+// The same with the places of the results.
+template <class In, class Out>
+void sweepReduction(std::string_view name, void (*entry)(In*, Out*, double*, unsigned long)) {
+  resultHash hash;
+  sweepWholeReductions<In>([&](std::vector<storage<In>> src) {
+    storage<Out> result{};
+    double index = 0;
+    entry(as<In>(src.data()), as<Out>(&result), &index, src.size());
+    hash.add(result);
+    hash.add(index);
+  });
+  hash.print(name);
+}
+
+template <class In, class Out>
+void sweepReduction(std::string_view name,
+                    void (*entry)(In*, Out*, double*, unsigned long, unsigned long*, bool, bool)) {
+  resultHash hash;
+  sweepReductionsAlongDimensions<In>(
+      [&](std::vector<storage<In>> src, std::vector<unsigned long>& dims, bool firstReduced, unsigned long outputs) {
+        for (const bool linear : {false, true}) {
+          std::vector<storage<Out>> results(outputs);
+          std::vector<double> indices(outputs);
+          entry(as<In>(src.data()), as<Out>(results.data()), indices.data(), dims.size(), dims.data(), firstReduced,
+                linear);
+          hash.add(results.data(), results.size());
+          hash.add(indices.data(), indices.size());
+        }
+      });
   hash.print(name);
 }
 

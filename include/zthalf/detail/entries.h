@@ -192,3 +192,34 @@
 #define ZTHALF_REMAINDER_ENTRIES(X) \
   ZTHALF_REAL_PAIRS(X, mod, Half)   \
   ZTHALF_REAL_PAIRS(X, rem, Half)
+
+// Reductions: X(entry, facade name, template in namespace half, input tag, output tag, accumulator tag). Only the
+// simple forms that keep NaNs have a facade of their own; the selectors of half_vector reach all entries.
+
+#define ZTHALF_REDUCTION_PRECISIONS(X, reduction, function, options)                               \
+  X(reduction##Half##options, reduction##Half, function, Half, Half, Half)                         \
+  X(reduction##Single##options, reduction##Single, function, Half, Half, Single)                   \
+  X(reduction##Double##options, reduction##Double, function, Half, Double, Double)                 \
+  X(reduction##Half##options##Cplx, reduction##Half, function, CplxHalf, CplxHalf, CplxHalf)       \
+  X(reduction##Single##options##Cplx, reduction##Single, function, CplxHalf, CplxHalf, CplxSingle) \
+  X(reduction##Double##options##Cplx, reduction##Double, function, CplxHalf, CplxDouble, CplxDouble)
+
+#define ZTHALF_SIMPLE_REDUCTIONS(X, op) ZTHALF_REDUCTION_PRECISIONS(X, op##SimpleReduce, op##SimpleReduce, )
+#define ZTHALF_SIMPLE_REDUCTIONS_OMITNAN(X, op) \
+  ZTHALF_REDUCTION_PRECISIONS(X, op##SimpleReduce, op##SimpleReduceOmitNaN, OmitNaN)
+#define ZTHALF_REDUCTIONS_ALONG_DIMENSIONS(X, op)              \
+  ZTHALF_REDUCTION_PRECISIONS(X, op##Reduce, op##ReduceFunc, ) \
+  ZTHALF_REDUCTION_PRECISIONS(X, op##Reduce, op##ReduceFuncOmitNaN, OmitNaN)
+
+#define ZTHALF_SIMPLE_REDUCTION_ENTRIES(X) \
+  ZTHALF_SIMPLE_REDUCTIONS(X, sum)         \
+  ZTHALF_SIMPLE_REDUCTIONS(X, prod)        \
+  ZTHALF_SIMPLE_REDUCTIONS(X, mean)
+#define ZTHALF_SIMPLE_OMITNAN_REDUCTION_ENTRIES(X) \
+  ZTHALF_SIMPLE_REDUCTIONS_OMITNAN(X, sum)         \
+  ZTHALF_SIMPLE_REDUCTIONS_OMITNAN(X, prod)        \
+  ZTHALF_SIMPLE_REDUCTIONS_OMITNAN(X, mean)
+#define ZTHALF_REDUCTION_ENTRIES(X)           \
+  ZTHALF_REDUCTIONS_ALONG_DIMENSIONS(X, sum)  \
+  ZTHALF_REDUCTIONS_ALONG_DIMENSIONS(X, prod) \
+  ZTHALF_REDUCTIONS_ALONG_DIMENSIONS(X, mean)

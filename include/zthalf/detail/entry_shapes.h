@@ -22,4 +22,7 @@ using binary_entry = void(Left*, Right*, Out*,                                  
                           unsigned long, unsigned long, unsigned long const*,   // right
                           unsigned long, unsigned long, unsigned long const*);  // output
 
+template <class In, class Out>
+using reduction_entry = void(In*, Out*, unsigned long, unsigned long*, bool);  // dimensions, sizes, first one reduced
+
 }  // namespace half_ptr

@@ -1,0 +1,109 @@
+// One step of a chain: a combination of what was folded so far and the next value.
+// Internal: promises nothing to users of the library.
+//
+// A step has
+//
+//   accumulator, wide, parts, number          the accumulator's type in the interface and what stands for it here
+//   number identity()
+//   number settled(number folded, number next)
+//                                             the result, NaNs as on the defining unit, `folded` being the first
+//                                             operand
+//   number plain(number folded, number next)  the same but for a NaN, which may be another one
+//   plainIsEnough                             the two are the same function
+//
+// Among steps on one accumulator a NaN stays a NaN in plain chains, so the end of a chain tells whether its NaNs
+// matter.
+#pragma once
+
+#include "reduce/folds/half_steps.h"
+#include "reduce/folds/value.h"
+
+namespace half_utils {
+
+struct addition {
+  static constexpr float identity = 0;
+  template <class Wide>
+  ZTHALF_INLINE static Wide apply(Wide a, Wide b) {
+    return a + b;
+  }
+};
+
+struct multiplication {
+  static constexpr float identity = 1;
+  template <class Wide>
+  ZTHALF_INLINE static Wide apply(Wide a, Wide b) {
+    return a * b;
+  }
+};
+
+template <class Accumulator>
+struct stepOn {
+  using accumulator = Accumulator;
+  using wide = typename chainOf<Accumulator>::wide;
+  static constexpr int parts = chainOf<Accumulator>::parts;
+  using number = value<wide, parts>;
+};
+
+// An operation on each part by itself: the sum of real and of complex numbers, the product of real ones.
+template <class Operation, class Accumulator>
+struct partwiseStep : stepOn<Accumulator> {
+  using typename stepOn<Accumulator>::number;
+  static constexpr bool plainIsEnough = false;
+
+  static number identity() { return {{Operation::identity}}; }
+
+  ZTHALF_INLINE static number plain(number folded, number next) {
+    for (int p = 0; p < stepOn<Accumulator>::parts; ++p)
+      folded.part[p] = rounded(Operation::apply(folded.part[p], next.part[p]));
+    return folded;
+  }
+  ZTHALF_INLINE static number settled(number folded, number next) {
+    for (int p = 0; p < stepOn<Accumulator>::parts; ++p) {
+      const auto result = Operation::apply(folded.part[p], next.part[p]);
+      folded.part[p] = rounded(zthalf::settledAfterResult(result, folded.part[p], next.part[p]));
+    }
+    return folded;
+  }
+
+ private:
+  template <class Wide>
+  ZTHALF_INLINE static Wide rounded(Wide x) {
+    if constexpr (chainOf<Accumulator>::roundsToHalf) {
+      return roundedToHalf(x);
+    } else {
+      return x;
+    }
+  }
+};
+
+// A NaN neither enters the chain nor survives in it: one that the operation itself made is thrown away at the next step
+// with all that was folded before, and the next value takes its place. A chain that made none need not look for it.
+template <class Step>
+struct replacingNaN : Step {
+  using typename Step::number;
+  static constexpr bool plainIsEnough = false;
+
+  ZTHALF_INLINE static number plain(number folded, number next) {
+    return chosen(isNaN(next), folded, Step::plain(folded, next));
+  }
+  ZTHALF_INLINE static number settled(number folded, number next) {
+    const number result = chosen(isNaN(next), folded, Step::settled(folded, next));
+    return chosen(isNaN(folded), chosen(isNaN(next), Step::identity(), next), result);
+  }
+};
+
+// A NaN does not enter the chain; one that the operation made stays.
+template <class Step>
+struct skippingNaN : Step {
+  using typename Step::number;
+  static constexpr bool plainIsEnough = false;
+
+  ZTHALF_INLINE static number plain(number folded, number next) {
+    return chosen(isNaN(next), folded, Step::plain(folded, next));
+  }
+  ZTHALF_INLINE static number settled(number folded, number next) {
+    return chosen(isNaN(next), folded, Step::settled(folded, next));
+  }
+};
+
+}  // namespace half_utils

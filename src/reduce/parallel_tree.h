@@ -1,0 +1,13 @@
+// The fork under a reduction tree's upper levels.
+// Internal: promises nothing to users of the library.
+#pragma once
+
+#include "frame/parallel_ranges.h"
+
+namespace half_utils {
+
+// Runs both, on two threads if one is free, and returns when both are done. An exception that leaves one of them is
+// rethrown here.
+void runBoth(bodyView<> first, bodyView<> second);
+
+}  // namespace half_utils
