@@ -58,14 +58,15 @@ void expectChains(std::string const& name, extremumEntry<Stored>, typename extre
 }
 
 template <class T>
-void checkShape(sizeList const& dims, filling kind, bitSource& bits) {
+void checkShape(sizeList const& dims, filling kind, bitSource& bits,
+                std::initializer_list<bool> firstReducedOrNot = {true, false}) {
   auto src = drawnArray<T>(countOf(dims), kind, bits);
   forEachExtremumEntry([&](std::string const& name, auto entry, auto function) {
     using kind = decltype(entry);
     constexpr bool isAlong = std::is_same_v<decltype(function), typename kind::along> ||
                              std::is_same_v<decltype(function), typename kind::indexedAlong>;
     if constexpr (isAlong && std::is_same_v<typename kind::element, T>) {
-      for (const bool firstReduced : {true, false}) {
+      for (const bool firstReduced : firstReducedOrNot) {
         if (!::testing::Test::HasFatalFailure()) expectChains(name, entry, function, src, dims, firstReduced);
       }
     }
@@ -96,7 +97,8 @@ TEST(ExtremaAlongDimensions, OfLargeShapes) {
                                         {3, 1025},    {1, 2500},      {2500, 1},   {2048, 5},   {4097, 3},
                                         {33, 2, 33},  {2, 300, 2, 3}, {300, 2, 3}, {7, 11, 13}, {1030, 2, 3, 2},
                                         {1, 1, 1, 5}, {2100, 2, 4},   {8200, 3}};
-  for (const filling kind : {filling::anything, filling::ties, filling::nearlyAllNaN, filling::equalLengths}) {
+  for (const filling kind :
+       {filling::anything, filling::ties, filling::nearlyAllNaN, filling::allNaN, filling::equalLengths}) {
     for (auto const& dims : shapes) {
       checkShape<half_t>(dims, kind, bits);
       if (countOf(dims) < 10000 && kind != filling::anything) checkShape<std::complex<half_t>>(dims, kind, bits);
@@ -108,9 +110,9 @@ TEST(ExtremaAlongDimensions, OfLargeShapes) {
 // More steps than a 16-bit number counts.
 TEST(ExtremaAlongDimensions, OfVeryLongRows) {
   bitSource bits(234);
-  for (sizeList const& dims : {sizeList{3, 65535}, sizeList{3, 65536}, sizeList{3, 65537}, sizeList{2, 70000, 2, 2}}) {
+  for (sizeList const& dims : {sizeList{3, 65536}, sizeList{3, 65537}, sizeList{2, 70000, 2, 2}}) {
     for (const filling kind : {filling::descending, filling::ties, filling::allNaN, filling::nearlyAllNaN}) {
-      checkShape<half_t>(dims, kind, bits);
+      checkShape<half_t>(dims, kind, bits, {false});
       if (::testing::Test::HasFatalFailure()) return;
     }
   }
