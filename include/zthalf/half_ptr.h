@@ -21,18 +21,27 @@ namespace half_ptr {
 #define ZTHALF_DECLARE_QUERY(entry, facade, In, instance) extern ZTHALF_API query_entry<half::storage::In>* entry##Ptr;
 #define ZTHALF_DECLARE_BINARY(op, Left, Right, Out) \
   extern ZTHALF_API binary_entry<half::element::Left, half::element::Right, half::element::Out>* op##Left##Right##Ptr;
+#define ZTHALF_DECLARE_COMPARISON(entry, op, Left, Right) \
+  extern ZTHALF_API binary_entry<half::element::Left, half::element::Right, bool>* entry##Ptr;
+#define ZTHALF_DECLARE_TERNARY(op, A, B, C, Out)                                                             \
+  extern ZTHALF_API ternary_entry<half::element::A, half::element::B, half::element::C, half::element::Out>* \
+      op##A##B##C##Ptr;
 
 ZTHALF_UNARY_ENTRIES(ZTHALF_DECLARE_UNARY)
 ZTHALF_EARLY_EXIT_ENTRIES(ZTHALF_DECLARE_EARLY_EXIT)
 ZTHALF_TWO_OUT_ENTRIES(ZTHALF_DECLARE_TWO_OUT)
 ZTHALF_QUERY_ENTRIES(ZTHALF_DECLARE_QUERY)
 ZTHALF_BINARY_ENTRIES(ZTHALF_DECLARE_BINARY)
+ZTHALF_COMPARISON_ENTRIES(ZTHALF_DECLARE_COMPARISON)
+ZTHALF_FMA_ENTRIES(ZTHALF_DECLARE_TERNARY)
 
 #undef ZTHALF_DECLARE_UNARY
 #undef ZTHALF_DECLARE_EARLY_EXIT
 #undef ZTHALF_DECLARE_TWO_OUT
 #undef ZTHALF_DECLARE_QUERY
 #undef ZTHALF_DECLARE_BINARY
+#undef ZTHALF_DECLARE_COMPARISON
+#undef ZTHALF_DECLARE_TERNARY
 
 /// 0 when the library is loaded, 1 from the first VLInitialize_half or CPU_Dispatch on. No operation reads it.
 extern ZTHALF_API unsigned char initialized;

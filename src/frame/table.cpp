@@ -16,17 +16,26 @@ namespace element = half::element;
 #define ZTHALF_FILL_BINARY(op, Left, Right, Out)                                    \
   binary_entry<element::Left, element::Right, element::Out>* op##Left##Right##Ptr = \
       &half::op<element::Left, element::Right, element::Out>;
+#define ZTHALF_FILL_COMPARISON(entry, op, Left, Right) \
+  binary_entry<element::Left, element::Right, bool>* entry##Ptr = &half::op<element::Left, element::Right>;
+#define ZTHALF_FILL_TERNARY(op, A, B, C, Out)                                         \
+  ternary_entry<element::A, element::B, element::C, element::Out>* op##A##B##C##Ptr = \
+      &half::op<element::A, element::B, element::C, element::Out>;
 
 ZTHALF_UNARY_ENTRIES(ZTHALF_FILL_UNARY)
 ZTHALF_EARLY_EXIT_ENTRIES(ZTHALF_FILL_EARLY_EXIT)
 ZTHALF_TWO_OUT_ENTRIES(ZTHALF_FILL_TWO_OUT)
 ZTHALF_QUERY_ENTRIES(ZTHALF_FILL_QUERY)
 ZTHALF_BINARY_ENTRIES(ZTHALF_FILL_BINARY)
+ZTHALF_COMPARISON_ENTRIES(ZTHALF_FILL_COMPARISON)
+ZTHALF_FMA_ENTRIES(ZTHALF_FILL_TERNARY)
 
 #undef ZTHALF_FILL_UNARY
 #undef ZTHALF_FILL_EARLY_EXIT
 #undef ZTHALF_FILL_TWO_OUT
 #undef ZTHALF_FILL_QUERY
 #undef ZTHALF_FILL_BINARY
+#undef ZTHALF_FILL_COMPARISON
+#undef ZTHALF_FILL_TERNARY
 
 }  // namespace half_ptr

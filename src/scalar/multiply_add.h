@@ -5,9 +5,7 @@
 // the sum there is made safe for the second rounding; with one, product and sum are fused in double and then rounded.
 #pragma once
 
-#include <cmath>
 #include <cstdint>
-#include <initializer_list>
 #include <type_traits>
 
 #include "core/bits.h"
@@ -43,27 +41,20 @@ ZTHALF_INLINE Wide nudgedSum(Wide product, Wide z) {
 
 // The fused operation, and its NaN: a signalling operand before a quiet one, then the first one of x, y, z; the default
 // NaN if no operand is one.
-inline double fusedMultiplyAdd(double x, double y, double z) {
-  const double plain = std::fma(x, y, z);
-  if (plain == plain) return plain;
-  for (const double operand : {x, y, z}) {
-    if (isSignalling(operand)) return quieted(operand);
-  }
-  for (const double operand : {x, y, z}) {
-    if (operand != operand) return operand;
-  }
-  return defaultNaN<double>;
-}
+double fusedMultiplyAdd(double x, double y, double z);
 
 // Three halves: float holds the product.
 ZTHALF_INLINE std::uint16_t plainMultiplyAdd(std::uint16_t x, std::uint16_t y, std::uint16_t z) {
   return narrow(nudgedSum<13>(widen<float>(x) * widen<float>(y), widen<float>(z)));
 }
 
-// With the NaN of the defining unit: the product's is the sum's first operand.
+// With the NaN of the defining unit: the product's is the sum's first operand. Of the product's pattern nothing counts
+// but whether it is a NaN, always a quiet one, and that NaN's sign.
 ZTHALF_INLINE std::uint16_t multiplyAdd(std::uint16_t x, std::uint16_t y, std::uint16_t z) {
-  const std::uint16_t product = settled(narrow(widen<float>(x) * widen<float>(y)), x, y);
-  return settled(plainMultiplyAdd(x, y, z), product, z);
+  const float product = widen<float>(x) * widen<float>(y);
+  const auto productNaN = static_cast<std::uint16_t>(maskOf<std::uint32_t>(product != product) & pattern::quietNaN);
+  const auto first = static_cast<std::uint16_t>(productNaN | signOfNaN(x, y));
+  return settled(nudgedSum<13>(product, widen<float>(z)), first, z);
 }
 
 template <class Out, class Wide>

@@ -22,4 +22,11 @@ using binary_entry = void(Left*, Right*, Out*,                                  
                           unsigned long, unsigned long, unsigned long const*,   // right
                           unsigned long, unsigned long, unsigned long const*);  // output
 
+template <class A, class B, class C, class Out>
+using ternary_entry = void(A*, B*, C*, Out*,                                     //
+                           unsigned long, unsigned long, unsigned long const*,   // a: count, dimensions, sizes
+                           unsigned long, unsigned long, unsigned long const*,   // b
+                           unsigned long, unsigned long, unsigned long const*,   // c
+                           unsigned long, unsigned long, unsigned long const*);  // output
+
 }  // namespace half_ptr
