@@ -48,13 +48,30 @@ ZTHALF_INLINE std::uint16_t plainMultiplyAdd(std::uint16_t x, std::uint16_t y, s
   return narrow(nudgedSum<13>(widen<float>(x) * widen<float>(y), widen<float>(z)));
 }
 
-// With the NaN of the defining unit: the product's is the sum's first operand. Of the product's pattern nothing counts
-// but whether it is a NaN, always a quiet one, and that NaN's sign.
-ZTHALF_INLINE std::uint16_t multiplyAdd(std::uint16_t x, std::uint16_t y, std::uint16_t z) {
+// With the NaN of the defining unit: the product's is the sum's first operand. The result is a half, so of every NaN
+// only its sign counts and whether it signals, and all that is decided on half patterns: z's is that of its NaN. The
+// product's NaN is always a quiet one.
+ZTHALF_INLINE std::uint16_t settledMultiplyAdd(std::uint16_t x, std::uint16_t y, float z, std::uint16_t nanOfZ) {
   const float product = widen<float>(x) * widen<float>(y);
   const auto productNaN = static_cast<std::uint16_t>(maskOf<std::uint32_t>(product != product) & pattern::quietNaN);
   const auto first = static_cast<std::uint16_t>(productNaN | signOfNaN(x, y));
-  return settled(nudgedSum<13>(product, widen<float>(z)), first, z);
+  return settled(nudgedSum<13>(product, z), first, nanOfZ);
+}
+
+ZTHALF_INLINE std::uint16_t multiplyAdd(std::uint16_t x, std::uint16_t y, std::uint16_t z) {
+  return settledMultiplyAdd(x, y, widen<float>(z), z);
+}
+
+// A half NaN of the same sign that signals where the float does; zero where it is no NaN.
+ZTHALF_INLINE std::uint16_t halfNaNOf(float z) {
+  const std::uint32_t bits = bitsOf(z);
+  const std::uint32_t quiet = (bits >> 13) & pattern::quietBit;
+  const std::uint32_t nan = ((bits >> 16) & pattern::signBit) | quiet | (pattern::infinity + 1u);
+  return static_cast<std::uint16_t>(nan & maskOf<std::uint32_t>(z != z));
+}
+
+ZTHALF_INLINE std::uint16_t multiplyAdd(std::uint16_t x, std::uint16_t y, float z) {
+  return settledMultiplyAdd(x, y, z, halfNaNOf(z));
 }
 
 template <class Out, class Wide>
@@ -66,7 +83,7 @@ ZTHALF_INLINE Out roundedTo(Wide value) {
   }
 }
 
-// The other mixtures. Only two halves times float keep to float; the product of a float with a half or a float has up
+// The other mixtures. The product of a float with a half or a float has up
 // to 48 bits and takes double.
 template <class X, class Y, class Z>
 ZTHALF_INLINE auto multiplyAdd(X x, Y y, Z z) {
