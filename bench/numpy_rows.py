@@ -20,6 +20,8 @@ UNARY = {'uminus': np.negative, 'abs': np.abs, 'sign': np.sign, 'isnan': np.isna
          'tanh': np.tanh, 'asinh': np.arcsinh}
 # Of positive numbers only, as for the other subjects.
 POSITIVE = {'log': np.log, 'log1p': np.log1p, 'log2': np.log2, 'log10': np.log10, 'sqrt': np.sqrt}
+BINARY = {'minus': np.subtract, 'times': np.multiply, 'rdivide': np.divide, 'hypot': np.hypot, 'atan2': np.arctan2,
+          'mod': np.mod, 'rem': np.fmod}
 EXPANDED = {'expand-none-1000x1000': ((1000, 1000), (1000, 1000)),
             'expand-1000x1-with-1000x1000': ((1000, 1), (1000, 1000)),
             'expand-1x1000-with-1000x1000': ((1, 1000), (1000, 1000)),
@@ -59,6 +61,9 @@ def call_for(row, n):
     if row in POSITIVE:
         source, target = np.abs(halves(n)), np.empty(n, np.float16)
         return lambda: POSITIVE[row](source, out=target)
+    if row in BINARY:
+        a, b, c = halves(n), halves(n)[::-1].copy(), np.empty(n, np.float16)
+        return lambda: BINARY[row](a, b, out=c)
     if row in ('plus', 'plus-value'):
         a, b, c = halves(1 if row == 'plus-value' else n), halves(n), np.empty(n, np.float16)
         return lambda: np.add(a, b, out=c)

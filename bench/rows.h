@@ -90,4 +90,40 @@ void unaryInPlace(std::string const& row, unaryCall<T, Out> ours) {
   });
 }
 
+// Two arrays of one size met element by element, as a facade function does it.
+template <class Left, class Right, class Out>
+using expandingCall = void (*)(Left*, Right*, Out*, unsigned long, unsigned long, unsigned long const*, unsigned long,
+                               unsigned long, unsigned long const*, unsigned long, unsigned long, unsigned long const*);
+
+template <class Left, class Right, class Out>
+auto pairsOn(expandingCall<Left, Right, Out> call, unsigned long n, content kind) {
+  return [=] {
+    auto left = filled<Left>(n, kind);
+    auto right = filled<Right>(n);
+    array<Out> out(n);
+    return [=] { call(left.data(), right.data(), out.data(), n, 1, &n, n, 1, &n, n, 1, &n); };
+  };
+}
+
+template <class T>
+using pairPeer = void (*)(T*, T*, T*, unsigned long);
+
+template <class T>
+auto peerPairsOn(pairPeer<T> call, unsigned long n) {
+  return [=] {
+    auto left = filled<T>(n);
+    auto right = filled<T>(n);
+    array<T> out(n);
+    return [=] { call(left.data(), right.data(), out.data(), n); };
+  };
+}
+
+template <class Left, class Right, class Out>
+void pairRow(std::string const& row, expandingCall<Left, Right, Out> ours) {
+  for (const unsigned long n : {fitsFirstLevel, leavesNearCaches}) {
+    measureOurs({row, "plain", n}, pairsOn<Left, Right, Out>(ours, n, content::plain));
+  }
+  measureOurs({row, "nans", fitsFirstLevel}, pairsOn<Left, Right, Out>(ours, fitsFirstLevel, content::nans));
+}
+
 }  // namespace bench

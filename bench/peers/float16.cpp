@@ -1,4 +1,7 @@
 // The compiler's own half type, where it has one for this set of instructions.
+#include <complex>
+#include <functional>
+
 #include "bench/peers/peers.h"
 
 namespace bench {
@@ -13,11 +16,32 @@ void convert(FromStored* src, ToStored* dst, unsigned long n) {
   for (unsigned long i = 0; i < n; ++i) to[i] = static_cast<To>(from[i]);
 }
 
-void plus(half_t* a, half_t* b, half_t* c, unsigned long n) {
+template <class Operation>
+void combine(half_t* a, half_t* b, half_t* c, unsigned long n) {
   auto* left = reinterpret_cast<_Float16*>(a);
   auto* right = reinterpret_cast<_Float16*>(b);
   auto* out = reinterpret_cast<_Float16*>(c);
-  for (unsigned long i = 0; i < n; ++i) out[i] = left[i] + right[i];
+  for (unsigned long i = 0; i < n; ++i) out[i] = Operation{}(left[i], right[i]);
+}
+
+using complexHalf = std::complex<half_t>;
+
+void complexPlus(complexHalf* a, complexHalf* b, complexHalf* c, unsigned long n) {
+  auto* left = reinterpret_cast<_Float16*>(a);
+  auto* right = reinterpret_cast<_Float16*>(b);
+  auto* out = reinterpret_cast<_Float16*>(c);
+  for (unsigned long i = 0; i < 2 * n; ++i) out[i] = left[i] + right[i];
+}
+
+void complexTimes(complexHalf* a, complexHalf* b, complexHalf* c, unsigned long n) {
+  auto* left = reinterpret_cast<_Float16*>(a);
+  auto* right = reinterpret_cast<_Float16*>(b);
+  auto* out = reinterpret_cast<_Float16*>(c);
+  for (unsigned long i = 0; i < 2 * n; i += 2) {
+    const float x = left[i], y = left[i + 1], u = right[i], v = right[i + 1];
+    out[i] = static_cast<_Float16>(x * u - y * v);
+    out[i + 1] = static_cast<_Float16>(x * v + y * u);
+  }
 }
 
 }  // namespace
@@ -33,7 +57,12 @@ ZTHALF_PEER_EXPORT peerPasses ZTHALF_PEER(float16_)() {
   passes.doubleToHalf = convert<double, _Float16>;
   passes.int32ToHalf = convert<int, _Float16>;
   passes.halfToInt32 = convert<_Float16, int>;
-  passes.plus = plus;
+  passes.plus = combine<std::plus<>>;
+  passes.minus = combine<std::minus<>>;
+  passes.times = combine<std::multiplies<>>;
+  passes.rdivide = combine<std::divides<>>;
+  passes.complexPlus = complexPlus;
+  passes.complexTimes = complexTimes;
 #endif
   return passes;
 }

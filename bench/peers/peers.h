@@ -1,6 +1,7 @@
 // What other half-precision code offers for the operations measured here.
 #pragma once
 
+#include <complex>
 #include <string>
 #include <vector>
 
@@ -19,6 +20,12 @@ struct peerPasses {
   void (*halfToInt32)(half_t*, int*, unsigned long);
   void (*floor)(half_t*, half_t*, unsigned long);
   void (*plus)(half_t*, half_t*, half_t*, unsigned long);
+  void (*minus)(half_t*, half_t*, half_t*, unsigned long);
+  void (*times)(half_t*, half_t*, half_t*, unsigned long);
+  void (*rdivide)(half_t*, half_t*, half_t*, unsigned long);
+  // By the textbook formulas, which give other results where a part is zero, infinite or a NaN.
+  void (*complexPlus)(std::complex<half_t>*, std::complex<half_t>*, std::complex<half_t>*, unsigned long);
+  void (*complexTimes)(std::complex<half_t>*, std::complex<half_t>*, std::complex<half_t>*, unsigned long);
 };
 
 #define ZTHALF_PEER_JOIN_(a, b) a##b

@@ -31,32 +31,6 @@ ZTHALF_INLINE T from(T value, unsigned long) {
   return value;
 }
 
-// Whether the functor has a branch-free plain() for these elements, whose result is final unless isUnsettled() says no.
-template <class Ftor, class A, class B>
-concept hasPlainForm = requires(Ftor f, A a, B b) {
-  f.plain(a, b);
-};
-
-// Results of the plain form, kept only where no NaN is among them. A block is finished before any of it is stored, so
-// the output may be one of the operands, but not overlap one in another way.
-template <class Ftor, class T1, class T2, class R>
-ZTHALF_INLINE void plainBlocks(T1 a, T2 b, R* c, unsigned long n) {
-  constexpr unsigned long blockSize = 64;
-  R block[blockSize];
-  for (unsigned long begin = 0; begin < n; begin += blockSize) {
-    const unsigned long size = std::min(blockSize, n - begin);
-    unsigned short anyNaN = 0;
-    for (unsigned long i = 0; i < size; ++i) {
-      block[i] = Ftor{}.plain(elementOf(a, begin + i), elementOf(b, begin + i));
-      anyNaN = static_cast<unsigned short>(anyNaN | Ftor::isUnsettled(block[i]));
-    }
-    if (__builtin_expect(anyNaN != 0, false)) {
-      for (unsigned long i = 0; i < size; ++i) block[i] = Ftor{}(elementOf(a, begin + i), elementOf(b, begin + i));
-    }
-    for (unsigned long i = 0; i < size; ++i) c[begin + i] = block[i];
-  }
-}
-
 // Whether n results from c on overlap the operand in another way than element upon element.
 template <class T, class R>
 ZTHALF_INLINE bool areShifted(T* a, R* c, unsigned long n) {
@@ -74,8 +48,9 @@ template <class Ftor, class T1, class T2, class R>
 struct binaryPass {
   static constexpr bool isWide = zthalf::earnsLevelsFor<Ftor, std::remove_pointer_t<T1>, std::remove_pointer_t<T2>>;
   ZTHALF_INLINE static void run(T1 a, T2 b, R* c, unsigned long n) {
-    if constexpr (hasPlainForm<Ftor, std::remove_pointer_t<T1>, std::remove_pointer_t<T2>>) {
-      if (!areShifted(a, c, n) && !areShifted(b, c, n)) return plainBlocks<Ftor>(a, b, c, n);
+    // A functor's own pass reads ahead of what it writes.
+    if constexpr (requires { Ftor::runInBlocks(a, b, c, n); }) {
+      if (!areShifted(a, c, n) && !areShifted(b, c, n)) return Ftor::runInBlocks(a, b, c, n);
     }
     for (unsigned long i = 0; i < n; ++i) c[i] = Ftor{}(elementOf(a, i), elementOf(b, i));
   }

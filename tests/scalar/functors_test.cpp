@@ -20,6 +20,7 @@ namespace zthalf {
 namespace {
 
 using namespace half::scalar::emulated;
+using complexHalf = std::complex<fp16binary_t>;
 using testing::bitComparison;
 
 template <class Op, class Combiner, unsigned long Threshold, unsigned long Grain>
@@ -148,7 +149,7 @@ TEST(Plus, IsTheOperatorOfHalves) {
   bitComparison compare("plus");
   for (const std::uint16_t a : testing::randomPatterns(500, 6)) {
     for (const std::uint16_t b : testing::curatedPatterns()) {
-      compare.check(plusFtor{}({a}, {b}), half_t{a} + half_t{b}, a, b);
+      compare.check(plusFtor{}(fp16binary_t{a}, fp16binary_t{b}), half_t{a} + half_t{b}, a, b);
     }
   }
 }

@@ -61,6 +61,30 @@ struct binaryRow {
     half_ptr::op##Left##Right##Ptr(stored(a), stored(b), stored(c), na, ndimsA, dimsA, nb, ndimsB, dimsB, nc, ndimsC,  \
                                    dimsC);                                                                             \
   }
+// mod and rem: bare patterns behind the table, and no third type in the template's name.
+template <class T>
+T* bare(T* p) {
+  return p;
+}
+inline unsigned short* bare(half_t* p) { return reinterpret_cast<unsigned short*>(p); }
+#define ZTHALF_ROW_REMAINDER_OPERATION(op, Left, Right, Out)                                                           \
+  [](element::Left* a, element::Right* b, element::Out* c, unsigned long na, unsigned long ndimsA,                     \
+     unsigned long const* dimsA, unsigned long nb, unsigned long ndimsB, unsigned long const* dimsB, unsigned long nc, \
+     unsigned long ndimsC, unsigned long const* dimsC) {                                                               \
+    half::op<half::storage::Left, half::storage::Right>(bare(a), bare(b), bare(c), na, ndimsA, dimsA, nb, ndimsB,      \
+                                                        dimsB, nc, ndimsC, dimsC);                                     \
+  }
+#define ZTHALF_ROW_REMAINDER_ENTRY(op, Left, Right, Out)                                                               \
+  [](element::Left* a, element::Right* b, element::Out* c, unsigned long na, unsigned long ndimsA,                     \
+     unsigned long const* dimsA, unsigned long nb, unsigned long ndimsB, unsigned long const* dimsB, unsigned long nc, \
+     unsigned long ndimsC, unsigned long const* dimsC) {                                                               \
+    half_ptr::op##Left##Right##Ptr(bare(a), bare(b), bare(c), na, ndimsA, dimsA, nb, ndimsB, dimsB, nc, ndimsC,        \
+                                   dimsC);                                                                             \
+  }
+#define ZTHALF_VISIT_REMAINDER_ROW(op, Left, Right, Out)                                                         \
+  visit(binaryRow<element::Left, element::Right, element::Out>{#op #Left #Right, &half_vector::op,               \
+                                                               ZTHALF_ROW_REMAINDER_ENTRY(op, Left, Right, Out), \
+                                                               ZTHALF_ROW_REMAINDER_OPERATION(op, Left, Right, Out)});
 #define ZTHALF_VISIT_ROW(op, Left, Right, Out)                                                         \
   visit(binaryRow<element::Left, element::Right, element::Out>{#op #Left #Right, &half_vector::op,     \
                                                                ZTHALF_ROW_ENTRY(op, Left, Right, Out), \
@@ -70,9 +94,13 @@ struct binaryRow {
 template <class Visit>
 void forEachBinaryRow(Visit visit) {
   ZTHALF_BINARY_ENTRIES(ZTHALF_VISIT_ROW)
+  ZTHALF_REMAINDER_ENTRIES(ZTHALF_VISIT_REMAINDER_ROW)
 }
 
 #undef ZTHALF_VISIT_ROW
+#undef ZTHALF_VISIT_REMAINDER_ROW
+#undef ZTHALF_ROW_REMAINDER_ENTRY
+#undef ZTHALF_ROW_REMAINDER_OPERATION
 #undef ZTHALF_ROW_ENTRY
 #undef ZTHALF_ROW_OPERATION
 

@@ -77,28 +77,6 @@ ZTHALF_INLINE complexOf<Wide> timesComplex(Unit unit, complexOf<Wide> x, complex
   return {re, 0};
 }
 
-// The product of two complex halves without a branch, for a pass in vector lanes; on numbers the same bits. A term that
-// takes no part becomes minus zero, which no sum notices; where both terms of a part are absent the part is plus zero.
-// A NaN's sign is not settled.
-ZTHALF_INLINE complexHalf plainComplexProduct(complexHalf x, complexHalf y) {
-  constexpr std::uint32_t minusZero = 0x80000000u;
-  const auto absentIf = [](float term, std::uint32_t absent) {
-    return floatOf(select(absent, minusZero, bitsOf(term)));
-  };
-  const float a = widen<float>(x.re), b = widen<float>(x.im), c = widen<float>(y.re), d = widen<float>(y.im);
-  const auto noA = maskOf<std::uint32_t>(a == 0), noB = maskOf<std::uint32_t>(b == 0);
-  const auto noC = maskOf<std::uint32_t>(c == 0), noD = maskOf<std::uint32_t>(d == 0);
-  // Of a real factor both products with the other one's parts are taken, whatever it is itself: but a zero part of the
-  // other one is left out.
-  const std::uint32_t noAC = select(noB, noC & ~noD, select(noD, noA, noA | noC));
-  const std::uint32_t noBD = noB | noD;
-  const std::uint32_t noAD = select(noB, noD, noD | noA);
-  const std::uint32_t noBC = noB | (noC & ~noD);
-  const float re = nudgedSum<13>(absentIf(a * c, noAC), absentIf(withSignFlipped(b * d), noBD));
-  const float im = nudgedSum<13>(absentIf(a * d, noAD), absentIf(b * c, noBC));
-  return {narrow(floatOf(bitsOf(re) & ~(noAC & noBD))), narrow(floatOf(bitsOf(im) & ~(noAD & noBC)))};
-}
-
 // The product of two complex operands, or of a complex and a real one.
 template <class A, class B>
 ZTHALF_INLINE complexHalf complexProduct(A x, B y) {

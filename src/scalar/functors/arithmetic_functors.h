@@ -3,7 +3,9 @@
 #pragma once
 
 #include <concepts>
+#include <type_traits>
 
+#include "scalar/functors/complex_product_blocks.h"
 #include "scalar/functors/operands.h"
 #include "scalar/mixed_arithmetic.h"
 
@@ -39,12 +41,12 @@ struct timesFtor {
     return element(zthalf::anyProduct(plainOperand(x), plainOperand(y)));
   }
 
-  // In lanes, but for the sign of a NaN.
-  template <std::same_as<complexHalf> Z>
-  ZTHALF_INLINE complexHalf plain(Z x, Z y) const {
-    return element(zthalf::plainComplexProduct(plainOperand(x), plainOperand(y)));
+  // Two complex halves, in vector lanes.
+  template <class T1, class T2>
+  requires(std::same_as<std::remove_pointer_t<T1>, complexHalf>&& std::same_as<std::remove_pointer_t<T2>, complexHalf>)
+      ZTHALF_INLINE static void runInBlocks(T1 a, T2 b, complexHalf* c, unsigned long n) {
+    complexProductBlocks(a, b, c, n);
   }
-  ZTHALF_INLINE static bool isUnsettled(complexHalf z) { return isNaNElement(z); }
 };
 
 struct rdivideFtor {

@@ -32,10 +32,4 @@ inline constexpr bool isMixedComplexPair = isComplexPair<A, B> && !zthalf::areMa
 ZTHALF_INLINE fp16binary_t element(std::uint16_t bits) { return {bits}; }
 ZTHALF_INLINE std::complex<fp16binary_t> element(zthalf::complexHalf z) { return {{z.re}, {z.im}}; }
 
-// Whether an element, or either of its parts, is a NaN.
-ZTHALF_INLINE bool isNaNElement(fp16binary_t x) { return zthalf::pattern::isNaN(x.bits); }
-ZTHALF_INLINE bool isNaNElement(std::complex<fp16binary_t> z) {
-  return isNaNElement(z.real()) | isNaNElement(z.imag());
-}
-
 }  // namespace half::scalar::emulated

@@ -1,0 +1,56 @@
+// The pass over products of complex halves: quick for most data, and never slow.
+// Internal: promises nothing to users of the library.
+#pragma once
+
+#include <algorithm>
+#include <complex>
+#include <cstdint>
+
+#include "scalar/complex/product_lanes.h"
+#include "zthalf/half_t.h"
+
+namespace half::scalar::emulated {
+
+// An element of an operand, which is an array or one value.
+ZTHALF_INLINE zthalf::complexHalf productOperand(std::complex<fp16binary_t> const* z, unsigned long i) {
+  auto const* parts = reinterpret_cast<std::uint16_t const*>(z);
+  return {parts[2 * i], parts[2 * i + 1]};
+}
+ZTHALF_INLINE zthalf::complexHalf productOperand(std::complex<fp16binary_t> z, unsigned long) {
+  return {z.real().bits, z.imag().bits};
+}
+
+// Blocks of plain products; one with a doubtful element is done again with every case looked at. Both loops run in
+// vector lanes, and the parts are kept apart until they are stored, without which they would not. A block is read
+// before any of it is written: the output may be one of the operands, but not overlap one in another way.
+template <class T1, class T2>
+ZTHALF_INLINE void complexProductBlocks(T1 a, T2 b, std::complex<fp16binary_t>* c, unsigned long n) {
+  constexpr unsigned long blockSize = 64;
+  std::uint16_t re[blockSize], im[blockSize];
+  auto* out = reinterpret_cast<std::uint16_t*>(c);
+  for (unsigned long begin = 0; begin < n; begin += blockSize) {
+    const unsigned long size = std::min(blockSize, n - begin);
+    std::uint32_t doubt = 0;
+    for (unsigned long i = 0; i < size; ++i) {
+      const zthalf::productInDoubt product =
+          zthalf::plainProductInLanes(productOperand(a, begin + i), productOperand(b, begin + i));
+      re[i] = product.value.re;
+      im[i] = product.value.im;
+      doubt |= product.doubt;
+    }
+    if (doubt != 0) {
+      for (unsigned long i = 0; i < size; ++i) {
+        const zthalf::complexHalf product =
+            zthalf::productInLanes(productOperand(a, begin + i), productOperand(b, begin + i));
+        re[i] = product.re;
+        im[i] = product.im;
+      }
+    }
+    for (unsigned long i = 0; i < size; ++i) {
+      out[2 * (begin + i)] = re[i];
+      out[2 * (begin + i) + 1] = im[i];
+    }
+  }
+}
+
+}  // namespace half::scalar::emulated
