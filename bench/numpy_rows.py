@@ -19,6 +19,7 @@ UNARY = {'uminus': np.negative, 'abs': np.abs, 'sign': np.sign, 'isnan': np.isna
          'tanh': np.tanh, 'asinh': np.arcsinh}
 # Of positive numbers only, as for the other subjects.
 POSITIVE = {'log': np.log, 'log1p': np.log1p, 'log2': np.log2, 'log10': np.log10, 'sqrt': np.sqrt}
+COMPARED = {'eq': np.equal, 'lt': np.less}
 EXPANDED = {'expand-none-1000x1000': ((1000, 1000), (1000, 1000)),
             'expand-1000x1-with-1000x1000': ((1000, 1), (1000, 1000)),
             'expand-1x1000-with-1000x1000': ((1, 1000), (1000, 1000)),
@@ -26,6 +27,8 @@ EXPANDED = {'expand-none-1000x1000': ((1000, 1000), (1000, 1000)),
             'expand-3x1-with-3x100000': ((3, 1), (3, 100000)),
             'expand-3x1-with-1x100000': ((3, 1), (1, 100000)),
             'expand-20x1-with-20x20000': ((20, 1), (20, 20000))}
+
+COMPARED_EXPANDED = {name.partition('-')[2]: shapes for name, shapes in EXPANDED.items()}
 
 
 def halves(shape):
@@ -58,6 +61,12 @@ def call_for(row, n):
     if row in ('plus', 'plus-value'):
         a, b, c = halves(1 if row == 'plus-value' else n), halves(n), np.empty(n, np.float16)
         return lambda: np.add(a, b, out=c)
+    operation, _, operand = row.partition('-')
+    if operation in COMPARED and operand in ('', 'value', *COMPARED_EXPANDED):
+        shapes = COMPARED_EXPANDED.get(operand, ((n,), (1,) if operand == 'value' else (n,)))
+        a, b = (halves(shape) for shape in shapes)
+        c = np.empty(np.broadcast_shapes(a.shape, b.shape), np.bool_, order='F')
+        return lambda: COMPARED[operation](a, b, out=c)
     if row in EXPANDED:
         a, b = (halves(shape) for shape in EXPANDED[row])
         c = np.empty(np.broadcast_shapes(a.shape, b.shape), np.float16, order='F')

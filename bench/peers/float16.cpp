@@ -1,4 +1,6 @@
 // The compiler's own half type, where it has one for this set of instructions.
+#include <functional>
+
 #include "bench/peers/peers.h"
 
 namespace bench {
@@ -20,6 +22,13 @@ void plus(half_t* a, half_t* b, half_t* c, unsigned long n) {
   for (unsigned long i = 0; i < n; ++i) out[i] = left[i] + right[i];
 }
 
+template <class Test>
+void compare(half_t* a, half_t* b, bool* c, unsigned long n) {
+  auto* left = reinterpret_cast<_Float16*>(a);
+  auto* right = reinterpret_cast<_Float16*>(b);
+  for (unsigned long i = 0; i < n; ++i) c[i] = Test{}(left[i], right[i]);
+}
+
 }  // namespace
 #endif
 
@@ -34,6 +43,8 @@ ZTHALF_PEER_EXPORT peerPasses ZTHALF_PEER(float16_)() {
   passes.int32ToHalf = convert<int, _Float16>;
   passes.halfToInt32 = convert<_Float16, int>;
   passes.plus = plus;
+  passes.equal = compare<std::equal_to<_Float16>>;
+  passes.less = compare<std::less<_Float16>>;
 #endif
   return passes;
 }

@@ -19,6 +19,8 @@ struct peerPasses {
   void (*halfToInt32)(half_t*, int*, unsigned long);
   void (*floor)(half_t*, half_t*, unsigned long);
   void (*plus)(half_t*, half_t*, half_t*, unsigned long);
+  void (*equal)(half_t*, half_t*, bool*, unsigned long);
+  void (*less)(half_t*, half_t*, bool*, unsigned long);
 };
 
 #define ZTHALF_PEER_JOIN_(a, b) a##b
