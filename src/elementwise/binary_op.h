@@ -77,22 +77,42 @@ void expandOp(A* a, B* b, C* c, expansionPlan const& plan, bool parallel) {
   expand(binaryOp<Ftor, A, B, C>, {a, b}, c, plan, parallel);
 }
 
-// The whole operation. The order of the tests is part of the contract: an empty output touches nothing; where element
-// counts alone say that the arrays meet one by one, or that one side is a single element, dimensions are not looked at.
-// One element against one element is a pair of arrays, not a scalar form.
-void meetAndRun(elementwiseOp const& op, void* a, void* b, void* c, shape shapeA, shape shapeB, shape shapeC);
-
-template <class Ftor, class A, class B, class C>
-void halfBinaryOp(A* a, B* b, C* c, shape shapeA, shape shapeB, shape shapeC) {
-  static_assert(std::is_empty_v<Ftor>, "a functor keeps nothing from one element to the next");
-  meetAndRun(binaryOp<Ftor, A, B, C>, a, b, c, shapeA, shapeB, shapeC);
+// How two operands meet in a flat loop, by the counts of the operands and of the output, and over how many elements;
+// neitherVaries where they do not. Counts alone decide, dimensions are not looked at. One element against one element
+// is a pair of arrays, not a scalar form.
+struct flatMeeting {
+  meeting along;
+  unsigned long n;
+};
+inline flatMeeting flatMeetingOf(unsigned long na, unsigned long nb, unsigned long nc) {
+  if (std::max(na, nb) == nc) {
+    if (na == nb) return {bothVary, na};
+    if (na == 1) return {rightVaries, nb};
+    if (nb == 1) return {leftVaries, na};
+  }
+  return {neitherVaries, 0};
 }
 
+void expandBinary(elementwiseOp const& op, operandPointers const& in, void* out, shape const& a, shape const& b,
+                  shape const& c);
+
+// The whole operation. The order of the tests is part of the contract, and an empty output touches nothing.
 template <class Ftor, class A, class B, class C>
 void halfBinaryOp(A* a, B* b, C* c, unsigned long na, unsigned long ndimsA, unsigned long const* dimsA,
                   unsigned long nb, unsigned long ndimsB, unsigned long const* dimsB, unsigned long nc,
                   unsigned long ndimsC, unsigned long const* dimsC) {
-  halfBinaryOp<Ftor>(a, b, c, {na, ndimsA, dimsA}, {nb, ndimsB, dimsB}, {nc, ndimsC, dimsC});
+  static_assert(std::is_empty_v<Ftor>, "a functor keeps nothing from one element to the next");
+  if (nc == 0) return;
+  const operandPointers in{a, b};
+  const flatMeeting flat = flatMeetingOf(na, nb, nc);
+  if (flat.along != neitherVaries) return flatLoop(binaryOp<Ftor, A, B, C>, flat.along, in, c, flat.n);
+  expandBinary(binaryOp<Ftor, A, B, C>, in, c, {na, ndimsA, dimsA}, {nb, ndimsB, dimsB}, {nc, ndimsC, dimsC});
+}
+
+template <class Ftor, class A, class B, class C>
+void halfBinaryOp(A* a, B* b, C* c, shape shapeA, shape shapeB, shape shapeC) {
+  halfBinaryOp<Ftor>(a, b, c, shapeA.n, shapeA.ndims, shapeA.dims, shapeB.n, shapeB.ndims, shapeB.dims, shapeC.n,
+                     shapeC.ndims, shapeC.dims);
 }
 
 }  // namespace half_utils

@@ -18,10 +18,10 @@ inline scalar::emulated::logicalElement* comparedElements(bool* array) {
 }
 
 // Op compares two parts, and Combiner makes one answer of those of the real and of the imaginary parts.
-template <class Op, class Combiner, class Left, class Right>
-void compare(Left* a, Right* b, bool* c, half_utils::shape shapeA, half_utils::shape shapeB, half_utils::shape shapeC) {
+template <class Op, class Combiner, class Left, class Right, class... Shapes>
+void compare(Left* a, Right* b, bool* c, Shapes... shapes) {
   using ftor = utils::ElementwiseBinaryOpFtor<Op, Combiner, 2048, 128>;
-  half_utils::halfBinaryOp<ftor>(comparedElements(a), comparedElements(b), c, shapeA, shapeB, shapeC);
+  half_utils::halfBinaryOp<ftor>(comparedElements(a), comparedElements(b), c, shapes...);
 }
 
 }  // namespace half

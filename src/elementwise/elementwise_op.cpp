@@ -36,8 +36,9 @@ void passOverGathered(elementwiseOp const& op, operandPointers const& in, void* 
   }
 }
 
-// A run, or a piece of a flat loop, by the pass of arrays alone.
-void passOverRepeated(elementwiseOp const& op, meeting along, operandPointers const& in, void* out, unsigned long n) {
+// A run, or a piece of a flat loop, by the pass of arrays alone. On its own because of its large frame.
+[[gnu::noinline]] void passOverRepeated(elementwiseOp const& op, meeting along, operandPointers const& in, void* out,
+                                        unsigned long n) {
   elementBlock blocks[mostOperands];
   operandPointers block = in;
   for (unsigned o = 0; o < op.operands; ++o) {

@@ -7,7 +7,7 @@ namespace half_utils {
 namespace {
 
 // Whether both have more than one element, and not the same shape.
-bool differ(shape s, shape t) {
+bool differ(shape const& s, shape const& t) {
   if (s.n < 2 || t.n < 2) return false;
   for (unsigned long d = 0; d < std::max(s.ndims, t.ndims); ++d) {
     if (s.size(d) != t.size(d)) return true;
@@ -18,8 +18,8 @@ bool differ(shape s, shape t) {
 }  // namespace
 
 // Once no shapes differ, counts tell who is a single element.
-void meetAndRun(elementwiseOp const& op, operandPointers const& in, void* out, shape shapeA, shape shapeB, shape shapeC,
-                shape shapeD) {
+void meetAndRun(elementwiseOp const& op, operandPointers const& in, void* out, shape const& shapeA, shape const& shapeB,
+                shape const& shapeC, shape const& shapeD) {
   if (shapeD.n == 0) return;
   if (differ(shapeA, shapeB) || differ(shapeA, shapeC) || differ(shapeB, shapeC)) {
     const expansionPlan plan(shapeA, shapeB, shapeC, shapeD);

@@ -80,8 +80,8 @@ void expandTernaryOp(A* a, B* b, C* c, D* d, expansionPlan const& plan, bool par
 
 // The whole operation. Unlike with two operands, sizes decide and not only counts: two operands of more than one
 // element whose shapes differ anywhere, a missing dimension counting as 1, make it an expansion.
-void meetAndRun(elementwiseOp const& op, operandPointers const& in, void* out, shape shapeA, shape shapeB, shape shapeC,
-                shape shapeD);
+void meetAndRun(elementwiseOp const& op, operandPointers const& in, void* out, shape const& shapeA, shape const& shapeB,
+                shape const& shapeC, shape const& shapeD);
 
 template <class Ftor, class A, class B, class C, class D>
 void halfTernaryOp(A* a, B* b, C* c, D* d, unsigned long na, unsigned long ndimsA, unsigned long const* dimsA,
