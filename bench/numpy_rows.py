@@ -33,6 +33,7 @@ EXPANDED = {'expand-none-1000x1000': ((1000, 1000), (1000, 1000)),
 REDUCTIONS = {'sum': (np.sum, np.nansum), 'mean': (np.mean, np.nanmean), 'prod': (np.prod, np.nanprod)}
 ACCUMULATORS = {'half': np.float16, 'single': np.float32, 'double': np.float64}
 REDUCTION = re.compile('(sum|mean|prod)(-columns|-rows)?-(half|single|double)(-omitnan)?')
+EXTREMUM = re.compile('min(-columns|-rows)?(-index|-omitnan)?')
 
 COMPARED_EXPANDED = {name.partition('-')[2]: shapes for name, shapes in EXPANDED.items()}
 
@@ -70,6 +71,17 @@ def call_for(row, n):
     if row in ('plus', 'plus-value'):
         a, b, c = halves(1 if row == 'plus-value' else n), halves(n), np.empty(n, np.float16)
         return lambda: np.add(a, b, out=c)
+    if row == 'min-pairs':
+        a, b, c = halves(n), halves(n), np.empty(n, np.float16)
+        return lambda: np.minimum(a, b, out=c)
+    extremum = EXTREMUM.fullmatch(row)
+    if extremum:
+        form, ending = extremum.groups()
+        side = int(n ** 0.5)
+        source = halves((side, n // side) if form else n)
+        axis = {None: None, '-columns': 0, '-rows': 1}[form]
+        function = {None: np.min, '-index': np.argmin, '-omitnan': np.nanmin}[ending]
+        return lambda: function(source, axis=axis)
     reduction = REDUCTION.fullmatch(row)
     if reduction:
         op, form, accumulator, omits = reduction.groups()

@@ -33,6 +33,8 @@ namespace half_ptr {
 #define ZTHALF_DECLARE_TERNARY(op, A, B, C, Out)                                                             \
   extern ZTHALF_API ternary_entry<half::element::A, half::element::B, half::element::C, half::element::Out>* \
       op##A##B##C##Ptr;
+#define ZTHALF_DECLARE_EXTREMUM(entry, shape, Element, Accumulator, function) \
+  extern ZTHALF_API shape##_entry<half::element::Element, half::element::Element>* entry##Ptr;
 
 ZTHALF_UNARY_ENTRIES(ZTHALF_DECLARE_UNARY)
 ZTHALF_EARLY_EXIT_ENTRIES(ZTHALF_DECLARE_EARLY_EXIT)
@@ -45,6 +47,8 @@ ZTHALF_SIMPLE_OMITNAN_REDUCTION_ENTRIES(ZTHALF_DECLARE_SIMPLE_REDUCTION)
 ZTHALF_REDUCTION_ENTRIES(ZTHALF_DECLARE_REDUCTION)
 ZTHALF_COMPARISON_ENTRIES(ZTHALF_DECLARE_COMPARISON)
 ZTHALF_FMA_ENTRIES(ZTHALF_DECLARE_TERNARY)
+ZTHALF_CHOSEN_BINARY_ENTRIES(ZTHALF_DECLARE_BINARY)
+ZTHALF_EXTREMUM_REDUCTION_ENTRIES(ZTHALF_DECLARE_EXTREMUM)
 
 #undef ZTHALF_DECLARE_UNARY
 #undef ZTHALF_DECLARE_EARLY_EXIT
@@ -56,6 +60,7 @@ ZTHALF_FMA_ENTRIES(ZTHALF_DECLARE_TERNARY)
 #undef ZTHALF_DECLARE_REDUCTION
 #undef ZTHALF_DECLARE_COMPARISON
 #undef ZTHALF_DECLARE_TERNARY
+#undef ZTHALF_DECLARE_EXTREMUM
 
 /// 0 when the library is loaded, 1 from the first VLInitialize_half or CPU_Dispatch on. No operation reads it.
 extern ZTHALF_API unsigned char initialized;

@@ -4,13 +4,7 @@
 #include "zthalf/detail/element_types.h"
 #include "zthalf/detail/entries.h"
 #include "zthalf/detail/export.h"
-
-/// A floating-point type as an argument.
-enum FloatTypeEnum {
-  FloatTypeHalf = 0,    ///< half
-  FloatTypeSingle = 1,  ///< float
-  FloatTypeDouble = 2   ///< double
-};
+#include "zthalf/float_type.h"
 
 /// Operations on arrays of half_t and std::complex<half_t>.
 ///

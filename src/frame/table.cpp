@@ -1,4 +1,5 @@
 // The table's variables, filled statically: no code runs to make them.
+#include "zthalf/half_extrema.h"
 #include "zthalf/half_ops.h"
 #include "zthalf/half_ptr.h"
 #include "zthalf/half_reductions.h"
@@ -30,6 +31,9 @@ namespace element = half::element;
 #define ZTHALF_FILL_TERNARY(op, A, B, C, Out)                                         \
   ternary_entry<element::A, element::B, element::C, element::Out>* op##A##B##C##Ptr = \
       &half::op<element::A, element::B, element::C, element::Out>;
+#define ZTHALF_FILL_EXTREMUM(entry, shape, Element, Accumulator, function) \
+  shape##_entry<element::Element, element::Element>* entry##Ptr =          \
+      &half::function<element::Element, element::Element, element::Accumulator>;
 
 ZTHALF_UNARY_ENTRIES(ZTHALF_FILL_UNARY)
 ZTHALF_EARLY_EXIT_ENTRIES(ZTHALF_FILL_EARLY_EXIT)
@@ -42,6 +46,8 @@ ZTHALF_SIMPLE_OMITNAN_REDUCTION_ENTRIES(ZTHALF_FILL_SIMPLE_REDUCTION)
 ZTHALF_REDUCTION_ENTRIES(ZTHALF_FILL_REDUCTION)
 ZTHALF_COMPARISON_ENTRIES(ZTHALF_FILL_COMPARISON)
 ZTHALF_FMA_ENTRIES(ZTHALF_FILL_TERNARY)
+ZTHALF_CHOSEN_BINARY_ENTRIES(ZTHALF_FILL_BINARY)
+ZTHALF_EXTREMUM_REDUCTION_ENTRIES(ZTHALF_FILL_EXTREMUM)
 
 #undef ZTHALF_FILL_UNARY
 #undef ZTHALF_FILL_EARLY_EXIT
@@ -53,5 +59,6 @@ ZTHALF_FMA_ENTRIES(ZTHALF_FILL_TERNARY)
 #undef ZTHALF_FILL_REDUCTION
 #undef ZTHALF_FILL_COMPARISON
 #undef ZTHALF_FILL_TERNARY
+#undef ZTHALF_FILL_EXTREMUM
 
 }  // namespace half_ptr

@@ -1,6 +1,7 @@
 // All entries of the table as data, read from the entry list.
 #pragma once
 
+#include "zthalf/half_extrema.h"
 #include "zthalf/half_ops.h"
 #include "zthalf/half_ptr.h"
 #include "zthalf/half_vector.h"
@@ -32,7 +33,17 @@ namespace facade_element = half_vector::element;
             half_ptr::ternary_entry<facade_element::A, facade_element::B, facade_element::C, facade_element::Out>*>( \
             &half_vector::op));
 
-// visit(name, entry, implementation, facade function) for every entry, where entry is the table's own variable.
+#define ZTHALF_VISIT_CHOSEN(op, Left, Right, Out)                                                                 \
+  visit(#op #Left #Right, half_ptr::op##Left##Right##Ptr, &half::op<element::Left, element::Right, element::Out>, \
+        nullptr);
+#define ZTHALF_VISIT_EXTREMUM(entry, shape, Element, Accumulator, function)             \
+  visit(#entry, half_ptr::entry##Ptr,                                                   \
+        static_cast<half_ptr::shape##_entry<element::Element, element::Element>*>(      \
+            &half::function<element::Element, element::Element, element::Accumulator>), \
+        nullptr);
+
+// visit(name, entry, implementation, facade function) for every entry, where entry is the table's own variable. The
+// facade function is null where the entry is one of several that a function chooses among.
 template <class Visit>
 void forEachEntry(Visit visit) {
   ZTHALF_UNARY_ENTRIES(ZTHALF_VISIT_UNARY)
@@ -40,6 +51,8 @@ void forEachEntry(Visit visit) {
   ZTHALF_BINARY_ENTRIES(ZTHALF_VISIT_BINARY)
   ZTHALF_COMPARISON_ENTRIES(ZTHALF_VISIT_COMPARISON)
   ZTHALF_FMA_ENTRIES(ZTHALF_VISIT_TERNARY)
+  ZTHALF_CHOSEN_BINARY_ENTRIES(ZTHALF_VISIT_CHOSEN)
+  ZTHALF_EXTREMUM_REDUCTION_ENTRIES(ZTHALF_VISIT_EXTREMUM)
 }
 
 #undef ZTHALF_VISIT_UNARY
@@ -47,6 +60,8 @@ void forEachEntry(Visit visit) {
 #undef ZTHALF_VISIT_BINARY
 #undef ZTHALF_VISIT_COMPARISON
 #undef ZTHALF_VISIT_TERNARY
+#undef ZTHALF_VISIT_CHOSEN
+#undef ZTHALF_VISIT_EXTREMUM
 
 }  // namespace table_rows
 

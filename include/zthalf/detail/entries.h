@@ -291,3 +291,31 @@
   X(fma, Double, Double, Half, Half)     \
   X(fma, Double, Double, Single, Single) \
   X(fma, Double, Double, Double, Double)
+// Binary rows that the table has and the facade has no function for: half_vector::minBinOp and maxBinOp choose among
+// them.
+
+#define ZTHALF_MIN_ENTRIES(X) ZTHALF_TWENTY_PAIRS(X, min) ZTHALF_TWENTY_PAIRS(X, minOmitNaN)
+#define ZTHALF_MAX_ENTRIES(X) ZTHALF_TWENTY_PAIRS(X, max) ZTHALF_TWENTY_PAIRS(X, maxOmitNaN)
+
+#define ZTHALF_CHOSEN_BINARY_ENTRIES(X) ZTHALF_MIN_ENTRIES(X) ZTHALF_MAX_ENTRIES(X)
+
+// Reductions of min and max: X(entry, shape, element tag, accumulator tag, template in namespace half). The shape is an
+// alias of entry_shapes.h without its ending.
+#define ZTHALF_EXTREMUM_REDUCTIONS(X, prefix, op, Element, Accumulator)                                 \
+  X(prefix##SimpleReduce, unary, Element, Accumulator, op##SimpleReduce)                                \
+  X(prefix##SimpleReduceOmitNaN, unary, Element, Accumulator, op##SimpleReduceOmitNaN)                  \
+  X(prefix##SimpleReduceWithIndex, indexed_whole, Element, Accumulator, op##SimpleReduce)               \
+  X(prefix##SimpleReduceWithIndexOmitNaN, indexed_whole, Element, Accumulator, op##SimpleReduceOmitNaN) \
+  X(prefix##Reduce, reduction, Element, Accumulator, op##ReduceFunc)                                    \
+  X(prefix##ReduceOmitNaN, reduction, Element, Accumulator, op##ReduceFuncOmitNaN)                      \
+  X(prefix##ReduceWithIndex, indexed_reduction, Element, Accumulator, op##ReduceFunc)                   \
+  X(prefix##ReduceWithIndexOmitNaN, indexed_reduction, Element, Accumulator, op##ReduceFuncOmitNaN)
+
+#define ZTHALF_MIN_REDUCTION_ENTRIES(X)                 \
+  ZTHALF_EXTREMUM_REDUCTIONS(X, min, min, Half, Single) \
+  ZTHALF_EXTREMUM_REDUCTIONS(X, minCplx, min, CplxHalf, CplxSingle)
+#define ZTHALF_MAX_REDUCTION_ENTRIES(X)                 \
+  ZTHALF_EXTREMUM_REDUCTIONS(X, max, max, Half, Single) \
+  ZTHALF_EXTREMUM_REDUCTIONS(X, maxCplx, max, CplxHalf, CplxSingle)
+
+#define ZTHALF_EXTREMUM_REDUCTION_ENTRIES(X) ZTHALF_MIN_REDUCTION_ENTRIES(X) ZTHALF_MAX_REDUCTION_ENTRIES(X)

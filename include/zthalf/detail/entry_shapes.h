@@ -31,4 +31,10 @@ using ternary_entry = void(A*, B*, C*, Out*,                                    
                            unsigned long, unsigned long, unsigned long const*,   // c
                            unsigned long, unsigned long, unsigned long const*);  // output
 
+// The index of the result beside it; the last flag is whether it counts in the whole array.
+template <class In, class Out>
+using indexed_whole_entry = void(In*, Out*, double*, unsigned long);
+template <class In, class Out>
+using indexed_reduction_entry = void(In*, Out*, double*, unsigned long, unsigned long*, bool, bool);
+
 }  // namespace half_ptr
