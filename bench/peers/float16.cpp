@@ -44,6 +44,13 @@ void complexTimes(complexHalf* a, complexHalf* b, complexHalf* c, unsigned long 
   }
 }
 
+template <class Test>
+void compare(half_t* a, half_t* b, bool* c, unsigned long n) {
+  auto* left = reinterpret_cast<_Float16*>(a);
+  auto* right = reinterpret_cast<_Float16*>(b);
+  for (unsigned long i = 0; i < n; ++i) c[i] = Test{}(left[i], right[i]);
+}
+
 void smaller(half_t* a, half_t* b, half_t* c, unsigned long n) {
   auto* left = reinterpret_cast<_Float16*>(a);
   auto* right = reinterpret_cast<_Float16*>(b);
@@ -95,6 +102,8 @@ ZTHALF_PEER_EXPORT peerPasses ZTHALF_PEER(float16_)() {
   passes.rdivide = combine<std::divides<>>;
   passes.complexPlus = complexPlus;
   passes.complexTimes = complexTimes;
+  passes.equal = compare<std::equal_to<_Float16>>;
+  passes.less = compare<std::less<_Float16>>;
   passes.smaller = smaller;
   passes.smallest = smallest;
   passes.positionOfSmallest = positionOfSmallest;

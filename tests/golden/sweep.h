@@ -181,9 +181,13 @@ bool isModerate(In const& element) {
 // but numbers.
 template <class In>
 std::vector<storage<In>> reductionData(std::size_t count, std::size_t every) {
-  const auto all = inputs<In>::sweep();
-  std::vector<storage<In>> moderate, some(count);
-  std::copy_if(all.begin(), all.end(), std::back_inserter(moderate), isModerate<storage<In>>);
+  static const auto all = inputs<In>::sweep();
+  static const auto moderate = [] {
+    std::vector<storage<In>> some;
+    std::copy_if(all.begin(), all.end(), std::back_inserter(some), isModerate<storage<In>>);
+    return some;
+  }();
+  std::vector<storage<In>> some(count);
   for (std::size_t i = 0; i < count; ++i) {
     auto const& from = every != 0 && i % every == every - 1 ? all : moderate;
     some[i] = from[(i * 25173 + i / from.size()) % from.size()];
@@ -200,7 +204,7 @@ void sweepWholeReductions(Call call) {
   for (auto const& first : notable) {
     for (auto const& second : notable) call(std::vector<storage<In>>{first, second});
   }
-  for (const std::size_t count : {1, 7, 128, 255, 256, 257, 300, 513, 1000, 4111, 70001}) {
+  for (const std::size_t count : {1, 7, 128, 255, 256, 257, 300, 513, 1000, 4111, 40001}) {
     for (const std::size_t every : densities) call(reductionData<In>(count, every));
   }
 }
@@ -209,7 +213,7 @@ void sweepWholeReductions(Call call) {
 template <class In, class Call>
 void sweepReductionsAlongDimensions(Call call) {
   const std::vector<unsigned long> shapes[] = {{300, 40},    {40, 300},       {5, 1100}, {1100, 5},
-                                               {3, 4, 5, 6}, {2, 3, 2, 3, 4}, {35000, 2}};
+                                               {3, 4, 5, 6}, {2, 3, 2, 3, 4}, {9000, 2}};
   for (std::vector<unsigned long> dims : shapes) {
     unsigned long count = 1;
     for (const unsigned long size : dims) count *= size;
@@ -275,6 +279,34 @@ void sweepReduction(std::string_view name,
           hash.add(indices.data(), indices.size());
         }
       });
+  hash.print(name);
+}
+
+template <class A, class B, class C, class Out>
+using expandingTernary = void (*)(A*, B*, C*, Out*, unsigned long, unsigned long, sizes, unsigned long, unsigned long,
+                                  sizes, unsigned long, unsigned long, sizes, unsigned long, unsigned long, sizes);
+
+// Three arrays that meet by implicit expansion: element by element, and a box of notable values in which each operand
+// has a dimension of its own.
+template <class A, class B, class C, class Out>
+void sweep(std::string_view name, expandingTernary<A, B, C, Out> entry) {
+  resultHash hash;
+  const auto meet = [&](std::vector<storage<A>> a, std::vector<storage<B>> b, std::vector<storage<C>> c, sizes dimsA,
+                        sizes dimsB, sizes dimsC, sizes dimsOut) {
+    std::vector<storage<Out>> d(dimsOut[0] * dimsOut[1] * dimsOut[2]);
+    entry(as<A>(a.data()), as<B>(b.data()), as<C>(c.data()), as<Out>(d.data()), a.size(), 3, dimsA, b.size(), 3, dimsB,
+          c.size(), 3, dimsC, d.size(), 3, dimsOut);
+    hash.add(d.data(), d.size());
+  };
+  const unsigned long flat[] = {meetings, 1, 1};
+  meet(meetingOf<A>(meetings, 1), meetingOf<B>(meetings, 25173), meetingOf<C>(meetings, 25173ul * 25173ul), flat, flat,
+       flat, flat);
+  const auto a = gridOf<A>();
+  const auto b = gridOf<B>();
+  const auto c = gridOf<C>();
+  const unsigned long first[] = {a.size(), 1, 1}, second[] = {1, b.size(), 1}, third[] = {1, 1, c.size()};
+  const unsigned long box[] = {a.size(), b.size(), c.size()};
+  meet(a, b, c, first, second, third, box);
   hash.print(name);
 }
 

@@ -24,6 +24,14 @@ namespace facade_element = half_vector::element;
   visit(#op #Left #Right, half_ptr::op##Left##Right##Ptr, &half::op<element::Left, element::Right, element::Out>, \
         static_cast<half_ptr::binary_entry<facade_element::Left, facade_element::Right, facade_element::Out>*>(   \
             &half_vector::op));
+#define ZTHALF_VISIT_COMPARISON(entry, op, Left, Right)                         \
+  visit(#entry, half_ptr::entry##Ptr, &half::op<element::Left, element::Right>, \
+        static_cast<half_ptr::binary_entry<facade_element::Left, facade_element::Right, bool>*>(&half_vector::op));
+#define ZTHALF_VISIT_TERNARY(op, A, B, C, Out)                                                                       \
+  visit(#op #A #B #C, half_ptr::op##A##B##C##Ptr, &half::op<element::A, element::B, element::C, element::Out>,       \
+        static_cast<                                                                                                 \
+            half_ptr::ternary_entry<facade_element::A, facade_element::B, facade_element::C, facade_element::Out>*>( \
+            &half_vector::op));
 
 #define ZTHALF_VISIT_CHOSEN(op, Left, Right, Out)                                                                 \
   visit(#op #Left #Right, half_ptr::op##Left##Right##Ptr, &half::op<element::Left, element::Right, element::Out>, \
@@ -41,6 +49,8 @@ void forEachEntry(Visit visit) {
   ZTHALF_UNARY_ENTRIES(ZTHALF_VISIT_UNARY)
   ZTHALF_QUERY_ENTRIES(ZTHALF_VISIT_QUERY)
   ZTHALF_BINARY_ENTRIES(ZTHALF_VISIT_BINARY)
+  ZTHALF_COMPARISON_ENTRIES(ZTHALF_VISIT_COMPARISON)
+  ZTHALF_FMA_ENTRIES(ZTHALF_VISIT_TERNARY)
   ZTHALF_CHOSEN_BINARY_ENTRIES(ZTHALF_VISIT_CHOSEN)
   ZTHALF_EXTREMUM_REDUCTION_ENTRIES(ZTHALF_VISIT_EXTREMUM)
 }
@@ -48,6 +58,8 @@ void forEachEntry(Visit visit) {
 #undef ZTHALF_VISIT_UNARY
 #undef ZTHALF_VISIT_QUERY
 #undef ZTHALF_VISIT_BINARY
+#undef ZTHALF_VISIT_COMPARISON
+#undef ZTHALF_VISIT_TERNARY
 #undef ZTHALF_VISIT_CHOSEN
 #undef ZTHALF_VISIT_EXTREMUM
 

@@ -224,6 +224,73 @@
   ZTHALF_REDUCTIONS_ALONG_DIMENSIONS(X, prod) \
   ZTHALF_REDUCTIONS_ALONG_DIMENSIONS(X, mean)
 
+// Comparison rows: X(entry, operation, left tag, right tag). The output is logical.
+
+#define ZTHALF_COMPARED_WITH(X, op, Tag)    \
+  X(op##Half##Tag, op, Half, Tag)           \
+  X(op##CplxHalf##Tag, op, CplxHalf, Tag)   \
+  X(op##HalfCplx##Tag, op, Half, Cplx##Tag) \
+  X(op##CplxHalfCplx##Tag, op, CplxHalf, Cplx##Tag)
+
+// Only a logical operand may stand on the left of a half, and those entries are named in a way of their own.
+#define ZTHALF_COMPARED_WITH_LOGICAL(X, op)              \
+  X(op##HalfLogical, op, Half, Logical)                  \
+  X(op##LogicalHalf, op, Logical, Half)                  \
+  X(op##RealToComplexLogicalHalf, op, Logical, CplxHalf) \
+  X(op##ComplexToRealHalfLogical, op, CplxHalf, Logical)
+
+#define ZTHALF_COMPARISON(X, op)      \
+  ZTHALF_COMPARED_WITH(X, op, Half)   \
+  ZTHALF_COMPARED_WITH(X, op, Single) \
+  ZTHALF_COMPARED_WITH(X, op, Double) \
+  ZTHALF_COMPARED_WITH(X, op, Int64)  \
+  ZTHALF_COMPARED_WITH(X, op, Int32)  \
+  ZTHALF_COMPARED_WITH(X, op, Int16)  \
+  ZTHALF_COMPARED_WITH(X, op, Int8)   \
+  ZTHALF_COMPARED_WITH(X, op, UInt64) \
+  ZTHALF_COMPARED_WITH(X, op, UInt32) \
+  ZTHALF_COMPARED_WITH(X, op, UInt16) \
+  ZTHALF_COMPARED_WITH(X, op, UInt8)  \
+  ZTHALF_COMPARED_WITH_LOGICAL(X, op)
+
+#define ZTHALF_COMPARISON_ENTRIES(X) \
+  ZTHALF_COMPARISON(X, eq)           \
+  ZTHALF_COMPARISON(X, ne)           \
+  ZTHALF_COMPARISON(X, gt)           \
+  ZTHALF_COMPARISON(X, ge)           \
+  ZTHALF_COMPARISON(X, lt)           \
+  ZTHALF_COMPARISON(X, le)
+
+// Ternary rows with implicit expansion: X(operation, first tag, second tag, third tag, output tag). The output has the
+// narrowest of the three types.
+#define ZTHALF_FMA_ENTRIES(X)            \
+  X(fma, Half, Half, Half, Half)         \
+  X(fma, Half, Half, Single, Half)       \
+  X(fma, Half, Half, Double, Half)       \
+  X(fma, Half, Single, Half, Half)       \
+  X(fma, Half, Single, Single, Half)     \
+  X(fma, Half, Single, Double, Half)     \
+  X(fma, Half, Double, Half, Half)       \
+  X(fma, Half, Double, Single, Half)     \
+  X(fma, Half, Double, Double, Half)     \
+  X(fma, Single, Half, Half, Half)       \
+  X(fma, Single, Half, Single, Half)     \
+  X(fma, Single, Half, Double, Half)     \
+  X(fma, Single, Single, Half, Half)     \
+  X(fma, Single, Single, Single, Single) \
+  X(fma, Single, Single, Double, Single) \
+  X(fma, Single, Double, Half, Half)     \
+  X(fma, Single, Double, Single, Single) \
+  X(fma, Single, Double, Double, Single) \
+  X(fma, Double, Half, Half, Half)       \
+  X(fma, Double, Half, Single, Half)     \
+  X(fma, Double, Half, Double, Half)     \
+  X(fma, Double, Single, Half, Half)     \
+  X(fma, Double, Single, Single, Single) \
+  X(fma, Double, Single, Double, Single) \
+  X(fma, Double, Double, Half, Half)     \
+  X(fma, Double, Double, Single, Single) \
+  X(fma, Double, Double, Double, Double)
 // Binary rows that the table has and the facade has no function for: half_vector::minBinOp and maxBinOp choose among
 // them.
 

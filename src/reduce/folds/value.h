@@ -1,5 +1,5 @@
-// What a chain of a reduction holds: one number, or the two parts of a complex one, in the type in which the chain
-// runs. Internal: promises nothing to users of the library.
+// What a chain of a reduction holds: a number or two parts, in the type in which the chain runs.
+// Internal: promises nothing to users of the library.
 #pragma once
 
 #include <complex>
