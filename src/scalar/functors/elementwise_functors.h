@@ -68,15 +68,13 @@ struct ElementwiseBinaryOpFtor {
   static constexpr unsigned long grain = Grain;
   using none = scalar::emulated::noImaginaryPart;
 
-  // Wide levels are for pairs of real operands and for complex ones that are made of halves or singles and meet such.
-  // Complex doubles, integers and logicals beside complex halves are rare, and are three fifths of all pairs: at all
-  // levels they alone would be as large as the rest.
+  // Wide levels are for pairs of real operands and for complex halves among themselves. Complex numbers of other types
+  // beside complex halves are rare, and are three quarters of all pairs: at all levels they alone would be as large as
+  // the rest of the library's code.
   template <class T>
-  static constexpr bool isOfHalvesOrSingles =
-      std::is_same_v<typename partsOf<T>::type, fp16binary_t> || std::is_same_v<typename partsOf<T>::type, float>;
+  static constexpr bool isOfHalves = std::is_same_v<typename partsOf<T>::type, fp16binary_t>;
   template <class A, class B>
-  static constexpr bool baseOnlyFor = (partsOf<A>::areTwo || partsOf<B>::areTwo) &&
-                                      !(isOfHalvesOrSingles<A> && isOfHalvesOrSingles<B>);
+  static constexpr bool baseOnlyFor = (partsOf<A>::areTwo || partsOf<B>::areTwo) && !(isOfHalves<A> && isOfHalves<B>);
 
   template <class A, class B>
   ZTHALF_INLINE auto operator()(A a, B b) const {
