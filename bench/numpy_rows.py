@@ -22,6 +22,7 @@ UNARY = {'uminus': np.negative, 'abs': np.abs, 'sign': np.sign, 'isnan': np.isna
 POSITIVE = {'log': np.log, 'log1p': np.log1p, 'log2': np.log2, 'log10': np.log10, 'sqrt': np.sqrt}
 BINARY = {'minus': np.subtract, 'times': np.multiply, 'rdivide': np.divide, 'hypot': np.hypot, 'atan2': np.arctan2,
           'mod': np.mod, 'rem': np.fmod}
+COMPARED = {'eq': np.equal, 'lt': np.less}
 EXPANDED = {'expand-none-1000x1000': ((1000, 1000), (1000, 1000)),
             'expand-1000x1-with-1000x1000': ((1000, 1), (1000, 1000)),
             'expand-1x1000-with-1000x1000': ((1, 1000), (1000, 1000)),
@@ -32,6 +33,9 @@ EXPANDED = {'expand-none-1000x1000': ((1000, 1000), (1000, 1000)),
 REDUCTIONS = {'sum': (np.sum, np.nansum), 'mean': (np.mean, np.nanmean), 'prod': (np.prod, np.nanprod)}
 ACCUMULATORS = {'half': np.float16, 'single': np.float32, 'double': np.float64}
 REDUCTION = re.compile('(sum|mean|prod)(-columns|-rows)?-(half|single|double)(-omitnan)?')
+EXTREMUM = re.compile('min(-columns|-rows)?(-index|-omitnan)?')
+
+COMPARED_EXPANDED = {name.partition('-')[2]: shapes for name, shapes in EXPANDED.items()}
 
 
 def halves(shape):
@@ -67,6 +71,17 @@ def call_for(row, n):
     if row in ('plus', 'plus-value'):
         a, b, c = halves(1 if row == 'plus-value' else n), halves(n), np.empty(n, np.float16)
         return lambda: np.add(a, b, out=c)
+    if row == 'min-pairs':
+        a, b, c = halves(n), halves(n), np.empty(n, np.float16)
+        return lambda: np.minimum(a, b, out=c)
+    extremum = EXTREMUM.fullmatch(row)
+    if extremum:
+        form, ending = extremum.groups()
+        side = int(n ** 0.5)
+        source = halves((side, n // side) if form else n)
+        axis = {None: None, '-columns': 0, '-rows': 1}[form]
+        function = {None: np.min, '-index': np.argmin, '-omitnan': np.nanmin}[ending]
+        return lambda: function(source, axis=axis)
     reduction = REDUCTION.fullmatch(row)
     if reduction:
         op, form, accumulator, omits = reduction.groups()
@@ -75,6 +90,12 @@ def call_for(row, n):
         source = halves((side, n // side) if form else n)
         axis = {None: None, '-columns': 0, '-rows': 1}[form]
         return lambda: function(source, axis=axis, dtype=dtype)
+    operation, _, operand = row.partition('-')
+    if operation in COMPARED and operand in ('', 'value', *COMPARED_EXPANDED):
+        shapes = COMPARED_EXPANDED.get(operand, ((n,), (1,) if operand == 'value' else (n,)))
+        a, b = (halves(shape) for shape in shapes)
+        c = np.empty(np.broadcast_shapes(a.shape, b.shape), np.bool_, order='F')
+        return lambda: COMPARED[operation](a, b, out=c)
     if row in EXPANDED:
         a, b = (halves(shape) for shape in EXPANDED[row])
         c = np.empty(np.broadcast_shapes(a.shape, b.shape), np.float16, order='F')

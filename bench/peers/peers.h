@@ -26,6 +26,12 @@ struct peerPasses {
   // By the textbook formulas, which give other results where a part is zero, infinite or a NaN.
   void (*complexPlus)(std::complex<half_t>*, std::complex<half_t>*, std::complex<half_t>*, unsigned long);
   void (*complexTimes)(std::complex<half_t>*, std::complex<half_t>*, std::complex<half_t>*, unsigned long);
+  void (*equal)(half_t*, half_t*, bool*, unsigned long);
+  void (*less)(half_t*, half_t*, bool*, unsigned long);
+  void (*smaller)(half_t*, half_t*, half_t*, unsigned long);
+  void (*smallest)(half_t*, half_t*, unsigned long);            // to one element
+  void (*positionOfSmallest)(half_t*, double*, unsigned long);  // from 1
+  void (*shortest)(std::complex<half_t>*, std::complex<half_t>*, unsigned long);
 };
 
 #define ZTHALF_PEER_JOIN_(a, b) a##b

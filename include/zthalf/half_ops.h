@@ -135,5 +135,25 @@ template <class Left, class Right>
 ZTHALF_API void rem(Left* a, Right* b, unsigned short* c, unsigned long na, unsigned long ndimsA,
                     unsigned long const* dimsA, unsigned long nb, unsigned long ndimsB, unsigned long const* dimsB,
                     unsigned long nc, unsigned long ndimsC, unsigned long const* dimsC);
+/// The comparisons, on the pairs of element types of their rows.
+#define ZTHALF_DECLARE_COMPARISON(op)                                                                                \
+  template <class Left, class Right>                                                                                 \
+  ZTHALF_API void op(Left* a, Right* b, bool* c, unsigned long na, unsigned long ndimsA, unsigned long const* dimsA, \
+                     unsigned long nb, unsigned long ndimsB, unsigned long const* dimsB, unsigned long nc,           \
+                     unsigned long ndimsC, unsigned long const* dimsC);
+ZTHALF_DECLARE_COMPARISON(eq)
+ZTHALF_DECLARE_COMPARISON(ne)
+ZTHALF_DECLARE_COMPARISON(gt)
+ZTHALF_DECLARE_COMPARISON(ge)
+ZTHALF_DECLARE_COMPARISON(lt)
+ZTHALF_DECLARE_COMPARISON(le)
+#undef ZTHALF_DECLARE_COMPARISON
+
+/// a * b + c, on the triples of element types of its rows.
+template <class A, class B, class C, class Out>
+ZTHALF_API void fma(A* a, B* b, C* c, Out* d, unsigned long na, unsigned long ndimsA, unsigned long const* dimsA,
+                    unsigned long nb, unsigned long ndimsB, unsigned long const* dimsB, unsigned long nc,
+                    unsigned long ndimsC, unsigned long const* dimsC, unsigned long nd, unsigned long ndimsD,
+                    unsigned long const* dimsD);
 
 }  // namespace half

@@ -4,13 +4,7 @@
 #include "zthalf/detail/element_types.h"
 #include "zthalf/detail/entries.h"
 #include "zthalf/detail/export.h"
-
-/// A floating-point type as an argument.
-enum FloatTypeEnum {
-  FloatTypeHalf = 0,    ///< half
-  FloatTypeSingle = 1,  ///< float
-  FloatTypeDouble = 2   ///< double
-};
+#include "zthalf/float_type.h"
 
 /// Operations on arrays of half_t and std::complex<half_t>.
 ///
@@ -38,6 +32,15 @@ namespace half_vector {
   ZTHALF_API void op(element::Left* a, element::Right* b, element::Out* c, unsigned long na, unsigned long ndimsA,   \
                      unsigned long const* dimsA, unsigned long nb, unsigned long ndimsB, unsigned long const* dimsB, \
                      unsigned long nc, unsigned long ndimsC, unsigned long const* dimsC);
+#define ZTHALF_DECLARE_COMPARISON(entry, op, Left, Right)                                                            \
+  ZTHALF_API void op(element::Left* a, element::Right* b, bool* c, unsigned long na, unsigned long ndimsA,           \
+                     unsigned long const* dimsA, unsigned long nb, unsigned long ndimsB, unsigned long const* dimsB, \
+                     unsigned long nc, unsigned long ndimsC, unsigned long const* dimsC);
+#define ZTHALF_DECLARE_TERNARY(op, A, B, C, Out)                                                                     \
+  ZTHALF_API void op(element::A* a, element::B* b, element::C* c, element::Out* d, unsigned long na,                 \
+                     unsigned long ndimsA, unsigned long const* dimsA, unsigned long nb, unsigned long ndimsB,       \
+                     unsigned long const* dimsB, unsigned long nc, unsigned long ndimsC, unsigned long const* dimsC, \
+                     unsigned long nd, unsigned long ndimsD, unsigned long const* dimsD);
 
 /// convertToHalf(T* src, half_t* dst, unsigned long n) and convertFromHalf(half_t* src, T* dst, unsigned long n), for T
 /// any of float, double, unsigned char, signed char, unsigned short, short, unsigned int, int, unsigned long long,
@@ -146,11 +149,39 @@ ZTHALF_QUERY_ENTRIES(ZTHALF_DECLARE_QUERY)
 ZTHALF_BINARY_ENTRIES(ZTHALF_DECLARE_BINARY)
 ZTHALF_REMAINDER_ENTRIES(ZTHALF_DECLARE_BINARY)
 
+/// eq, ne, gt, ge, lt, le: comparisons of two arrays with implicit expansion, shapes as for plus. The left operand is
+/// an array of half_t or std::complex<half_t>; the right one is of halves, floats, doubles, integers of 8 to 64 bits,
+/// or complex numbers made of any of these. bool stands on either side of a real or complex half. In a bool operand
+/// every byte but zero is true; in the output there are only 0 and 1.
+///
+/// Numbers are compared by their values, exactly: no operand is rounded to half, and a bool counts as 1 or 0. The two
+/// zeros are equal. With a NaN every answer is false, but that of ne is true.
+/// eq and ne of complex numbers look at both parts, a real operand's imaginary part being zero. gt, ge, lt, le look at
+/// the real parts alone: an imaginary part changes nothing, even if it is a NaN.
+ZTHALF_COMPARISON_ENTRIES(ZTHALF_DECLARE_COMPARISON)
+
+/// fma(a, b, c, d): d = a * b + c with one effective rounding, for arrays of half_t, float and double in all mixtures,
+/// with implicit expansion. The output has the narrowest of the three types.
+///
+/// Where neither a nor b is double, the product is exact and the result is the correctly rounded one as long as it is
+/// in the output type's normal range and the sum loses no more than its last bit in the working type: float for two
+/// halves beside a half or a float, otherwise double. Where a or b is double, product and sum are fused in double and
+/// then rounded to the output type. A zero sum is +0 unless both terms are -0. An invalid operation gives the positive
+/// default NaN; of several NaN operands the product's comes before c's, unless c's alone signals.
+///
+/// Each array is described as for plus. Here the sizes of operands that have more than one element are compared, and
+/// not only their counts: where all such operands have one shape they meet one by one, a single element meeting every
+/// element of the others, and the output may be one of the operands. All other shapes are expanded, with working arrays
+/// and failures as for plus.
+ZTHALF_FMA_ENTRIES(ZTHALF_DECLARE_TERNARY)
+
 #undef ZTHALF_DECLARE_UNARY
 #undef ZTHALF_DECLARE_EARLY_EXIT
 #undef ZTHALF_DECLARE_TWO_OUT
 #undef ZTHALF_DECLARE_QUERY
 #undef ZTHALF_DECLARE_BINARY
+#undef ZTHALF_DECLARE_COMPARISON
+#undef ZTHALF_DECLARE_TERNARY
 
 /// The distance of a[i] and b[i] in units in the last place of half, at the smaller exponent of the two: out[i] as
 /// half_scalar::ulp tells. Operands that are not half are compared at full width; where neither is, the unit and the

@@ -1,6 +1,8 @@
 // Everything the library offers.
 #pragma once
 
+#include "zthalf/float_type.h"
+#include "zthalf/half_extrema.h"
 #include "zthalf/half_ops.h"
 #include "zthalf/half_ptr.h"
 #include "zthalf/half_reductions.h"

@@ -6,30 +6,9 @@
 #include <cstdint>
 #include <type_traits>
 
-#include "core/instruction_level.h"
-#include "elementwise/expansion.h"
-#include "frame/loop_policy.h"
+#include "elementwise/elementwise_op.h"
 
 namespace half_utils {
-
-// An operand of a flat loop is an array (a pointer) or one value that meets every element of the other side.
-template <class T>
-ZTHALF_INLINE T elementOf(T* array, unsigned long i) {
-  return array[i];
-}
-template <class T>
-ZTHALF_INLINE T elementOf(T value, unsigned long) {
-  return value;
-}
-
-template <class T>
-ZTHALF_INLINE T* from(T* array, unsigned long begin) {
-  return array + begin;
-}
-template <class T>
-ZTHALF_INLINE T from(T value, unsigned long) {
-  return value;
-}
 
 // Whether n results from c on overlap the operand in another way than element upon element.
 template <class T, class R>
@@ -56,71 +35,84 @@ struct binaryPass {
   }
 };
 
-template <class Ftor, class T1, class T2, class R>
-auto binaryPassInUse() {
-  return zthalf::leveled<binaryPass<Ftor, T1, T2, R>, T1, T2, R*, unsigned long>::chosen();
+template <class Ftor, class A, class B, class C>
+flatPass binaryPassFor(meeting along) {
+  switch (along) {
+    case rightVaries:
+      return passOnPointers<binaryPass<Ftor, A, B*, C>>::chosen();
+    case leftVaries:
+      return passOnPointers<binaryPass<Ftor, A*, B, C>>::chosen();
+    default:
+      return passOnPointers<binaryPass<Ftor, A*, B*, C>>::chosen();
+  }
 }
+
+template <class Ftor, class A, class B, class C>
+inline constexpr elementwiseOp binaryOp{
+    2, {sizeof(A), sizeof(B)}, sizeof(C), Ftor::grain, &binaryPassFor<Ftor, A, B, C>};
+
+// How the operands of a flat loop meet, by their types.
+template <class T1, class T2>
+inline constexpr meeting meetingOf = (std::is_pointer_v<T1> ? leftVaries : neitherVaries) |
+                                     (std::is_pointer_v<T2> ? rightVaries : neitherVaries);
+
+template <class Ftor, class T1, class T2, class R>
+inline constexpr elementwiseOp const& flatBinaryOp =
+    binaryOp<Ftor, std::remove_pointer_t<T1>, std::remove_pointer_t<T2>, R>;
 
 template <class Ftor, class T1, class T2, class R>
 void binaryOpParallel(T1 a, T2 b, R* c, unsigned long n, Ftor) {
-  const auto pass = binaryPassInUse<Ftor, T1, T2, R>();
-  forAffineRanges(n, Ftor::grain, [=](unsigned long begin, unsigned long end) {
-    pass(from(a, begin), from(b, begin), c + begin, end - begin);
-  });
+  flatLoopInParallel(flatBinaryOp<Ftor, T1, T2, R>, meetingOf<T1, T2>, {addressOf(a), addressOf(b)}, c, n);
 }
 
 // The flat loop: c[i] = f(a[i] or a, b[i] or b) for i from 0 to n - 1.
 template <class Ftor, class T1, class T2, class R>
-void halfBinaryOpParallelLoop(T1 a, T2 b, R* c, unsigned long n, Ftor f) {
+void halfBinaryOpParallelLoop(T1 a, T2 b, R* c, unsigned long n, Ftor) {
   static_assert(std::is_empty_v<Ftor>, "a functor keeps nothing from one element to the next");
-  if (forks(n)) return binaryOpParallel(a, b, c, n, f);
-  binaryPassInUse<Ftor, T1, T2, R>()(a, b, c, n);
+  flatLoop(flatBinaryOp<Ftor, T1, T2, R>, meetingOf<T1, T2>, {addressOf(a), addressOf(b)}, c, n);
 }
 
-// The general expansion. Within a run an operand that does not vary is read once. Parallel or not, what differs is only
-// who visits which run.
 template <class Ftor, class A, class B, class C>
 void expandOp(A* a, B* b, C* c, expansionPlan const& plan, bool parallel) {
-  const auto visit = [&](runBody body) {
-    parallel ? forEachRunInParallel(plan, Ftor::grain / 2, body) : forEachRun(plan, body);
-  };
-  using offset = unsigned long;
-  switch (plan.runMeeting) {
-    case rightVaries:
-      return visit([=, &plan, pass = binaryPassInUse<Ftor, A, B*, C>()](offset atA, offset atB, offset atC) {
-        pass(a[atA], b + atB, c + atC, plan.run);
-      });
-    case leftVaries:
-      return visit([=, &plan, pass = binaryPassInUse<Ftor, A*, B, C>()](offset atA, offset atB, offset atC) {
-        pass(a + atA, b[atB], c + atC, plan.run);
-      });
-    default:
-      return visit([=, &plan, pass = binaryPassInUse<Ftor, A*, B*, C>()](offset atA, offset atB, offset atC) {
-        pass(a + atA, b + atB, c + atC, plan.run);
-      });
-  }
+  expand(binaryOp<Ftor, A, B, C>, {a, b}, c, plan, parallel);
 }
 
-// The whole operation. The order of the tests is part of the contract: an empty output touches nothing; where element
-// counts alone say that the arrays meet one by one, or that one side is a single element, dimensions are not looked at.
-// One element against one element is a pair of arrays, not a scalar form.
-template <class Ftor, class A, class B, class C>
-void halfBinaryOp(A* a, B* b, C* c, shape shapeA, shape shapeB, shape shapeC) {
-  if (shapeC.n == 0) return;
-  if (std::max(shapeA.n, shapeB.n) == shapeC.n) {
-    if (shapeA.n == shapeB.n) return halfBinaryOpParallelLoop<Ftor, A*, B*, C>(a, b, c, shapeA.n, Ftor{});
-    if (shapeA.n == 1) return halfBinaryOpParallelLoop<Ftor, A, B*, C>(a[0], b, c, shapeB.n, Ftor{});
-    if (shapeB.n == 1) return halfBinaryOpParallelLoop<Ftor, A*, B, C>(a, b[0], c, shapeA.n, Ftor{});
+// How two operands meet in a flat loop, by the counts of the operands and of the output, and over how many elements;
+// neitherVaries where they do not. Counts alone decide, dimensions are not looked at. One element against one element
+// is a pair of arrays, not a scalar form.
+struct flatMeeting {
+  meeting along;
+  unsigned long n;
+};
+inline flatMeeting flatMeetingOf(unsigned long na, unsigned long nb, unsigned long nc) {
+  if (std::max(na, nb) == nc) {
+    if (na == nb) return {bothVary, na};
+    if (na == 1) return {rightVaries, nb};
+    if (nb == 1) return {leftVaries, na};
   }
-  const expansionPlan plan(shapeA, shapeB, shapeC);
-  expandOp<Ftor>(a, b, c, plan, shapeC.n >= expansionThreshold);
+  return {neitherVaries, 0};
 }
 
+void expandBinary(elementwiseOp const& op, operandPointers const& in, void* out, shape const& a, shape const& b,
+                  shape const& c);
+
+// The whole operation. The order of the tests is part of the contract, and an empty output touches nothing.
 template <class Ftor, class A, class B, class C>
 void halfBinaryOp(A* a, B* b, C* c, unsigned long na, unsigned long ndimsA, unsigned long const* dimsA,
                   unsigned long nb, unsigned long ndimsB, unsigned long const* dimsB, unsigned long nc,
                   unsigned long ndimsC, unsigned long const* dimsC) {
-  halfBinaryOp<Ftor>(a, b, c, {na, ndimsA, dimsA}, {nb, ndimsB, dimsB}, {nc, ndimsC, dimsC});
+  static_assert(std::is_empty_v<Ftor>, "a functor keeps nothing from one element to the next");
+  if (nc == 0) return;
+  const operandPointers in{a, b};
+  const flatMeeting flat = flatMeetingOf(na, nb, nc);
+  if (flat.along != neitherVaries) return flatLoop(binaryOp<Ftor, A, B, C>, flat.along, in, c, flat.n);
+  expandBinary(binaryOp<Ftor, A, B, C>, in, c, {na, ndimsA, dimsA}, {nb, ndimsB, dimsB}, {nc, ndimsC, dimsC});
+}
+
+template <class Ftor, class A, class B, class C>
+void halfBinaryOp(A* a, B* b, C* c, shape shapeA, shape shapeB, shape shapeC) {
+  halfBinaryOp<Ftor>(a, b, c, shapeA.n, shapeA.ndims, shapeA.dims, shapeB.n, shapeB.ndims, shapeB.dims, shapeC.n,
+                     shapeC.ndims, shapeC.dims);
 }
 
 }  // namespace half_utils

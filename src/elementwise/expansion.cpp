@@ -14,84 +14,68 @@ std::vector<unsigned long> cumulativeSizes(shape s, unsigned long ndims) {
   return steps;
 }
 
-meeting meetingIn(unsigned long d, shape a, shape b) {
-  return static_cast<meeting>((a.size(d) != 1 ? leftVaries : 0u) | (b.size(d) != 1 ? rightVaries : 0u));
-}
-
 }  // namespace
 
-expansionPlan::expansionPlan(shape left, shape right, shape out)
-    : a(left),
-      b(right),
-      c(out),
-      stepsA(cumulativeSizes(a, c.ndims)),
-      stepsB(cumulativeSizes(b, c.ndims)),
-      stepsC(cumulativeSizes(c, c.ndims)) {
+expansionPlan::expansionPlan(unsigned count, std::array<shape, mostOperands> const& operandShapes, shape outShape)
+    : operands(count), in(operandShapes), out(outShape), outSteps(cumulativeSizes(out, out.ndims)) {
+  for (unsigned o = 0; o < operands; ++o) steps[o] = cumulativeSizes(in[o], out.ndims);
+  const auto meetingIn = [this](unsigned long d) {
+    meeting here = 0;
+    for (unsigned o = 0; o < operands; ++o) here = here << 1 | static_cast<meeting>(in[o].size(d) != 1);
+    return here;
+  };
   // Dimensions in which nobody varies belong to any run; the first other one decides what kind the run is.
-  for (; firstOuter < c.ndims; ++firstOuter) {
-    const meeting here = meetingIn(firstOuter, a, b);
-    if (runMeeting == neitherVaries) {
+  for (; firstOuter < out.ndims; ++firstOuter) {
+    const meeting here = meetingIn(firstOuter);
+    if (runMeeting == 0) {
       runMeeting = here;
-    } else if (here != neitherVaries && here != runMeeting) {
+    } else if (here != 0 && here != runMeeting) {
       break;
     }
   }
-  run = firstOuter > 0 ? stepsC[firstOuter - 1] : 1;
-  runs = c.n / run;
+  run = firstOuter > 0 ? outSteps[firstOuter - 1] : 1;
+  runs = out.n / run;
 }
 
-odometer::odometer(expansionPlan const& plan)
-    : plan_(plan), indexA_(plan.c.ndims), indexB_(plan.c.ndims), indexC_(plan.c.ndims) {}
+odometer::odometer(expansionPlan const& plan) : run_(plan.run) {
+  dimensions_.reserve(plan.out.ndims - plan.firstOuter);
+  for (unsigned long d = plan.firstOuter; d < plan.out.ndims; ++d) {
+    dimension here{plan.out.dims[d], 0, {}};
+    for (unsigned o = 0; o < plan.operands; ++o) {
+      const unsigned long step = d > 0 ? plan.steps[o][d - 1] : 1;
+      here.moves[o] = plan.in[o].size(d) < 2 ? 0 : step;
+    }
+    dimensions_.push_back(here);
+  }
+}
 
 void odometer::advance() {
-  const auto wrap = [](unsigned long& index, unsigned long& offset, unsigned long step) {
-    offset -= step * index;
-    index = 0;
-  };
-  const auto step = [](shape s, unsigned long d, unsigned long& index, unsigned long& offset, unsigned long step) {
-    if (s.size(d) < 2) return;
-    ++index;
-    offset += step;
-  };
-  for (unsigned long d = plan_.firstOuter; d < plan_.c.ndims; ++d) {
-    const unsigned long stepA = d > 0 ? plan_.stepsA[d - 1] : 1;
-    const unsigned long stepB = d > 0 ? plan_.stepsB[d - 1] : 1;
-    if (indexC_[d] + 1 != plan_.c.dims[d]) {
-      ++indexC_[d];
-      step(plan_.a, d, indexA_[d], offsetA_, stepA);
-      step(plan_.b, d, indexB_[d], offsetB_, stepB);
-      offsetC_ += plan_.run;
+  outOffset_ += run_;
+  for (dimension& here : dimensions_) {
+    if (++here.index != here.size) {
+      for (unsigned o = 0; o < mostOperands; ++o) offsets_[o] += here.moves[o];
       return;
     }
-    indexC_[d] = 0;
-    wrap(indexA_[d], offsetA_, stepA);
-    wrap(indexB_[d], offsetB_, stepB);
+    here.index = 0;
+    for (unsigned o = 0; o < mostOperands; ++o) offsets_[o] -= here.moves[o] * (here.size - 1);
   }
 }
 
 void odometer::seek(unsigned long runNumber) {
-  offsetA_ = offsetB_ = offsetC_ = 0;
-  unsigned long rest = runNumber;
-  for (unsigned long d = plan_.firstOuter; d < plan_.c.ndims; ++d) {
-    const unsigned long stepA = d > 0 ? plan_.stepsA[d - 1] : 1;
-    const unsigned long stepB = d > 0 ? plan_.stepsB[d - 1] : 1;
-    const unsigned long stepC = d > 0 ? plan_.stepsC[d - 1] : 1;
-    const unsigned long i = rest % plan_.c.dims[d];
-    rest /= plan_.c.dims[d];
-    indexC_[d] = i;
-    indexA_[d] = plan_.stepsA[d] == stepA ? 0 : i;
-    indexB_[d] = plan_.stepsB[d] == stepB ? 0 : i;
-    offsetA_ += stepA * indexA_[d];
-    offsetB_ += stepB * indexB_[d];
-    offsetC_ += stepC * i;
+  offsets_ = {};
+  outOffset_ = runNumber * run_;
+  for (dimension& here : dimensions_) {
+    here.index = runNumber % here.size;
+    runNumber /= here.size;
+    for (unsigned o = 0; o < mostOperands; ++o) offsets_[o] += here.moves[o] * here.index;
   }
 }
 
 void forEachRun(expansionPlan const& plan, runBody body) {
-  if (plan.run > plan.c.n) return;
+  if (plan.run > plan.out.n) return;
   odometer at(plan);
   for (unsigned long i = 0; i < std::max(plan.runs, 1UL); ++i) {
-    body(at.offsetA(), at.offsetB(), at.offsetC());
+    body(at.offsets(), at.outOffset());
     at.advance();
   }
 }
@@ -101,7 +85,7 @@ void forEachRunInParallel(expansionPlan const& plan, unsigned long grainLimit, r
     odometer at(plan);
     at.seek(begin);
     for (unsigned long i = begin; i < end; ++i) {
-      body(at.offsetA(), at.offsetB(), at.offsetC());
+      body(at.offsets(), at.outOffset());
       at.advance();
     }
   });

@@ -1,12 +1,15 @@
-// Implicit expansion: how two shapes meet, and the walk over the output in runs.
+// Implicit expansion: how the shapes of two or three operands meet, and the walk over the output in runs.
 // Internal: promises nothing to users of the library.
 #pragma once
 
+#include <array>
 #include <vector>
 
 #include "frame/parallel_ranges.h"
 
 namespace half_utils {
+
+inline constexpr unsigned mostOperands = 3;
 
 // An array's shape as callers give it: element count and sizes, first dimension fastest.
 struct shape {
@@ -18,26 +21,40 @@ struct shape {
   unsigned long size(unsigned long d) const { return d < ndims ? dims[d] : 1; }
 };
 
-// How a dimension, or a run of them, treats the operands: bit 0 is set where the right one varies, bit 1 where the left
-// one does. An operand that does not vary has size 1 there.
-enum meeting : unsigned { neitherVaries = 0, rightVaries = 1, leftVaries = 2, bothVary = 3 };
+// How a dimension, or a run of them, treats the operands: one bit for each, the first operand's the highest, set where
+// it varies. An operand that does not vary has size 1 there.
+using meeting = unsigned;
+
+// The meetings of two operands.
+inline constexpr meeting neitherVaries = 0, rightVaries = 1, leftVaries = 2, bothVary = 3;
+
+// Whether operand o of so many varies.
+inline constexpr bool varies(meeting here, unsigned operands, unsigned o) { return (here >> (operands - 1 - o)) & 1; }
 
 // The output cut into runs: the longest leading dimensions that all treat the operands in one way. Within a run each
 // operand is either one element or contiguous, so a run is one call of a flat pass.
 struct expansionPlan {
-  expansionPlan(shape a, shape b, shape c);
+  expansionPlan(shape a, shape b, shape out) : expansionPlan(2, {a, b, {}}, out) {}
+  expansionPlan(shape a, shape b, shape c, shape out) : expansionPlan(3, {a, b, c}, out) {}
 
-  shape a, b, c;
+  unsigned operands;
+  std::array<shape, mostOperands> in;
+  shape out;
   // Element counts of dimensions 0 to d: also the step from one index of dimension d + 1 to the next.
-  std::vector<unsigned long> stepsA, stepsB, stepsC;
-  meeting runMeeting = neitherVaries;
+  std::array<std::vector<unsigned long>, mostOperands> steps;
+  std::vector<unsigned long> outSteps;
+  meeting runMeeting = 0;
   unsigned long firstOuter = 0;  // the first dimension that is not part of the run
   unsigned long run = 0;         // output elements of a run
   unsigned long runs = 0;
+
+ private:
+  expansionPlan(unsigned count, std::array<shape, mostOperands> const& operandShapes, shape outShape);
 };
 
-// Where a run starts in the three arrays.
-using runBody = bodyView<unsigned long, unsigned long, unsigned long>;  // offsets in a, b and c
+// Where a run starts in the operands.
+using runStart = std::array<unsigned long, mostOperands>;
+using runBody = bodyView<runStart const&, unsigned long>;  // and in the output
 
 // The position of one run among the plan's outer dimensions.
 class odometer {
@@ -49,14 +66,19 @@ class odometer {
   // To the start of the next run.
   void advance();
 
-  unsigned long offsetA() const { return offsetA_; }
-  unsigned long offsetB() const { return offsetB_; }
-  unsigned long offsetC() const { return offsetC_; }
+  runStart const& offsets() const { return offsets_; }
+  unsigned long outOffset() const { return outOffset_; }
 
  private:
-  expansionPlan const& plan_;
-  std::vector<unsigned long> indexA_, indexB_, indexC_;
-  unsigned long offsetA_ = 0, offsetB_ = 0, offsetC_ = 0;
+  // An operand of size 1 in a dimension does not move there.
+  struct dimension {
+    unsigned long size, index;
+    runStart moves;
+  };
+
+  std::vector<dimension> dimensions_;
+  runStart offsets_{};
+  unsigned long run_, outOffset_ = 0;
 };
 
 // All runs on the calling thread, in ascending order of the output.

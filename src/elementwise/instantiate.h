@@ -1,4 +1,4 @@
-// How a source that defines a binary operation makes the instances of its rows.
+// How a source that defines an operation of two or three operands makes the instances of its rows.
 // Internal: promises nothing to users of the library.
 #pragma once
 
@@ -12,3 +12,9 @@
 
 #define ZTHALF_INSTANTIATE_REMAINDER(op, Left, Right, Out) \
   template half_ptr::binary_entry<storage::Left, storage::Right, storage::Out> op<storage::Left, storage::Right>;
+#define ZTHALF_INSTANTIATE_COMPARISON(entry, op, Left, Right) \
+  template half_ptr::binary_entry<element::Left, element::Right, bool> op<element::Left, element::Right>;
+
+#define ZTHALF_INSTANTIATE_TERNARY(op, A, B, C, Out)                                 \
+  template half_ptr::ternary_entry<element::A, element::B, element::C, element::Out> \
+      op<element::A, element::B, element::C, element::Out>;

@@ -57,6 +57,20 @@ T* bare(T* p) {
   void facade(element::In* src, element::Out* dst, unsigned long n) {                  \
     half_ptr::entry##Ptr(stored(src), stored(dst), n);                                 \
   }
+#define ZTHALF_FORWARD_COMPARISON(entry, op, Left, Right)                                                   \
+  void op(element::Left* a, element::Right* b, bool* c, unsigned long na, unsigned long ndimsA,             \
+          unsigned long const* dimsA, unsigned long nb, unsigned long ndimsB, unsigned long const* dimsB,   \
+          unsigned long nc, unsigned long ndimsC, unsigned long const* dimsC) {                             \
+    half_ptr::entry##Ptr(stored(a), stored(b), c, na, ndimsA, dimsA, nb, ndimsB, dimsB, nc, ndimsC, dimsC); \
+  }
+#define ZTHALF_FORWARD_TERNARY(op, A, B, C, Out)                                                                      \
+  void op(element::A* a, element::B* b, element::C* c, element::Out* d, unsigned long na, unsigned long ndimsA,       \
+          unsigned long const* dimsA, unsigned long nb, unsigned long ndimsB, unsigned long const* dimsB,             \
+          unsigned long nc, unsigned long ndimsC, unsigned long const* dimsC, unsigned long nd, unsigned long ndimsD, \
+          unsigned long const* dimsD) {                                                                               \
+    half_ptr::op##A##B##C##Ptr(stored(a), stored(b), stored(c), stored(d), na, ndimsA, dimsA, nb, ndimsB, dimsB, nc,  \
+                               ndimsC, dimsC, nd, ndimsD, dimsD);                                                     \
+  }
 
 ZTHALF_UNARY_ENTRIES(ZTHALF_FORWARD_UNARY)
 ZTHALF_EARLY_EXIT_ENTRIES(ZTHALF_FORWARD_EARLY_EXIT)
@@ -65,6 +79,8 @@ ZTHALF_QUERY_ENTRIES(ZTHALF_FORWARD_QUERY)
 ZTHALF_BINARY_ENTRIES(ZTHALF_FORWARD_BINARY)
 ZTHALF_REMAINDER_ENTRIES(ZTHALF_FORWARD_REMAINDER)
 ZTHALF_SIMPLE_REDUCTION_ENTRIES(ZTHALF_FORWARD_SIMPLE_REDUCTION)
+ZTHALF_COMPARISON_ENTRIES(ZTHALF_FORWARD_COMPARISON)
+ZTHALF_FMA_ENTRIES(ZTHALF_FORWARD_TERNARY)
 
 #undef ZTHALF_FORWARD_UNARY
 #undef ZTHALF_FORWARD_EARLY_EXIT
@@ -73,5 +89,7 @@ ZTHALF_SIMPLE_REDUCTION_ENTRIES(ZTHALF_FORWARD_SIMPLE_REDUCTION)
 #undef ZTHALF_FORWARD_BINARY
 #undef ZTHALF_FORWARD_REMAINDER
 #undef ZTHALF_FORWARD_SIMPLE_REDUCTION
+#undef ZTHALF_FORWARD_COMPARISON
+#undef ZTHALF_FORWARD_TERNARY
 
 }  // namespace half_vector

@@ -1,4 +1,5 @@
 // The table's variables, filled statically: no code runs to make them.
+#include "zthalf/half_extrema.h"
 #include "zthalf/half_ops.h"
 #include "zthalf/half_ptr.h"
 #include "zthalf/half_reductions.h"
@@ -25,6 +26,14 @@ namespace element = half::element;
 #define ZTHALF_FILL_REDUCTION(entry, facade, function, In, Out, Accumulator) \
   reduction_entry<element::In, element::Out>* entry##Ptr =                   \
       &half::function<element::In, element::Out, element::Accumulator>;
+#define ZTHALF_FILL_COMPARISON(entry, op, Left, Right) \
+  binary_entry<element::Left, element::Right, bool>* entry##Ptr = &half::op<element::Left, element::Right>;
+#define ZTHALF_FILL_TERNARY(op, A, B, C, Out)                                         \
+  ternary_entry<element::A, element::B, element::C, element::Out>* op##A##B##C##Ptr = \
+      &half::op<element::A, element::B, element::C, element::Out>;
+#define ZTHALF_FILL_EXTREMUM(entry, shape, Element, Accumulator, function) \
+  shape##_entry<element::Element, element::Element>* entry##Ptr =          \
+      &half::function<element::Element, element::Element, element::Accumulator>;
 
 ZTHALF_UNARY_ENTRIES(ZTHALF_FILL_UNARY)
 ZTHALF_EARLY_EXIT_ENTRIES(ZTHALF_FILL_EARLY_EXIT)
@@ -35,6 +44,10 @@ ZTHALF_REMAINDER_ENTRIES(ZTHALF_FILL_REMAINDER)
 ZTHALF_SIMPLE_REDUCTION_ENTRIES(ZTHALF_FILL_SIMPLE_REDUCTION)
 ZTHALF_SIMPLE_OMITNAN_REDUCTION_ENTRIES(ZTHALF_FILL_SIMPLE_REDUCTION)
 ZTHALF_REDUCTION_ENTRIES(ZTHALF_FILL_REDUCTION)
+ZTHALF_COMPARISON_ENTRIES(ZTHALF_FILL_COMPARISON)
+ZTHALF_FMA_ENTRIES(ZTHALF_FILL_TERNARY)
+ZTHALF_CHOSEN_BINARY_ENTRIES(ZTHALF_FILL_BINARY)
+ZTHALF_EXTREMUM_REDUCTION_ENTRIES(ZTHALF_FILL_EXTREMUM)
 
 #undef ZTHALF_FILL_UNARY
 #undef ZTHALF_FILL_EARLY_EXIT
@@ -44,5 +57,8 @@ ZTHALF_REDUCTION_ENTRIES(ZTHALF_FILL_REDUCTION)
 #undef ZTHALF_FILL_REMAINDER
 #undef ZTHALF_FILL_SIMPLE_REDUCTION
 #undef ZTHALF_FILL_REDUCTION
+#undef ZTHALF_FILL_COMPARISON
+#undef ZTHALF_FILL_TERNARY
+#undef ZTHALF_FILL_EXTREMUM
 
 }  // namespace half_ptr

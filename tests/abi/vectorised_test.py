@@ -19,7 +19,7 @@ MOVE = re.compile(r'v?mov\w*')
 
 
 def shortened(pass_name):
-    """The first template argument, without the namespaces that all passes share and with closed angle brackets."""
+    """The first template argument, without the namespaces and the wrapper that passes share, with closed angle brackets."""
     depth, end = 0, len(pass_name)
     for i, letter in enumerate(pass_name):
         depth += (letter == '<') - (letter == '>')
@@ -27,7 +27,8 @@ def shortened(pass_name):
             end = i
             break
     name = pass_name[:end].replace('(anonymous namespace)::', '').replace('> >', '>>')
-    return re.sub(r'\b(half|half_utils|zthalf|templates|emulated|scalar|utils|realOps)::', '', name)
+    name = re.sub(r'\b(half|half_utils|zthalf|templates|emulated|scalar|utils|realOps)::', '', name)
+    return re.sub(r'^passOnPointers<(.*)>$', r'\1', name)
 
 
 def works_packed(body, level):

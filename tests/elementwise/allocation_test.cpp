@@ -92,6 +92,56 @@ TEST(Expansion, PassesAFailedAllocationOutOfItsParallelBranch) {
   });
 }
 
+TEST(TernaryExpansion, PassesAFailedAllocationOutAndKeepsNothing) {
+  std::vector<half_t> a(30, {0x3C00}), b(40, {0x4000}), c(1200, {0x0000}), d(1200);
+  const sizeList column{30, 1}, row{1, 40}, matrix{30, 40};
+  const long before = allocations::live();
+  long failures = 0;
+  for (bool failed = true; failed; ++failures) {
+    allocations::failAfter(failures);
+    try {
+      half_vector::fma(a.data(), b.data(), c.data(), d.data(), 30, 2, column.data(), 40, 2, row.data(), 1200, 2,
+                       matrix.data(), 1200, 2, matrix.data());
+      failed = false;
+    } catch (std::bad_alloc const&) {
+      EXPECT_FALSE(allocations::stillToFail());
+    }
+    allocations::failAfter(-1);
+    EXPECT_EQ(allocations::live(), before) << "after failure " << failures;
+  }
+  EXPECT_GT(failures, 1);
+  for (const half_t product : d) EXPECT_EQ(product.bits, 0x4000);
+}
+
+TEST(TernaryFlatLoop, AllocatesNothing) {
+  std::vector<half_t> a(5), d(5);
+  std::vector<float> single(5);
+  const unsigned long n = 5, one = 1;
+  const long before = allocations::made();
+  half_vector::fma(a.data(), a.data(), a.data(), d.data(), n, 1, &n, one, 1, &one, one, 1, &one, n, 1, &n);
+  half_vector::fma(a.data(), single.data(), a.data(), d.data(), n, 1, &n, one, 1, &one, one, 1, &one, n, 1, &n);
+  EXPECT_EQ(allocations::made(), before);
+}
+
+// Sizes count, not only counts: six elements as 2 by 3 and six as 3 by 2 are no flat loop, which shows by what is
+// allocated.
+TEST(TernaryExpansion, IsWhatEqualCountsOfDifferentShapesGet) {
+  std::vector<half_t> a(6), d(6);
+  const sizeList low{2, 3}, tall{3, 2}, one{1, 1};
+  const auto allocatesFor = [&](sizeList const& dimsB, sizeList const& dimsC) {
+    const long before = allocations::made();
+    half_vector::fma(a.data(), a.data(), a.data(), d.data(), 6, 2, low.data(), countOf(dimsB), 2, dimsB.data(),
+                     countOf(dimsC), 2, dimsC.data(), 6, 2, low.data());
+    return allocations::made() != before;
+  };
+  EXPECT_FALSE(allocatesFor(low, low));
+  EXPECT_FALSE(allocatesFor(low, one));
+  EXPECT_FALSE(allocatesFor(one, low));
+  EXPECT_TRUE(allocatesFor(tall, one));
+  EXPECT_TRUE(allocatesFor(one, tall));
+  EXPECT_TRUE(allocatesFor(low, tall));
+}
+
 // Asks for working arrays that no memory could hold, or that are refused.
 template <class Failure>
 void expectRefused(unsigned long ndims, long successes) {

@@ -66,7 +66,7 @@ TEST(FlatLoopInParallel, GivesTheBitsOfTheSerialLoopInEveryMeeting) {
 half_utils::shape shapeOf(sizeList const& dims) { return {countOf(dims), dims.size(), dims.data()}; }
 
 outputs expanded(operands& x, half_utils::expansionPlan const& plan, bool parallel) {
-  outputs c(plan.c.n + 2, 9);
+  outputs c(plan.out.n + 2, 9);
   half_utils::expandOp<pairFtor>(x.a.data(), x.b.data(), c.data() + 1, plan, parallel);
   return c;
 }
@@ -84,7 +84,7 @@ TEST(ExpansionInParallel, GivesTheBitsOfTheSerialExpansion) {
     operands x(countOf(shapes.a), countOf(shapes.b));
     const half_utils::expansionPlan plan(shapeOf(shapes.a), shapeOf(shapes.b), shapeOf(shapes.c));
     const outputs serial = expanded(x, plan, false);
-    for (unsigned long k = 0; k < plan.c.n; ++k) {
+    for (unsigned long k = 0; k < plan.out.n; ++k) {
       ASSERT_EQ(serial[k + 1], pairFtor{}(x.a[shapes.offsetInA(k)], x.b[shapes.offsetInB(k)])) << shapes;
     }
     onEachThreadCount(

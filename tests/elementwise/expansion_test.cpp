@@ -16,6 +16,7 @@ namespace {
 
 using half_utils::expansionPlan;
 using half_utils::odometer;
+using half_utils::runStart;
 using half_utils::shape;
 using testing::meetingShapes;
 using testing::met;
@@ -78,9 +79,9 @@ INSTANTIATE_TEST_SUITE_P(
 TEST(ExpansionPlan, HoldsTheStepsOfEveryDimension) {
   const meetingShapes shapes = met({2, 1, 3}, {1, 5, 3, 2});
   const expansionPlan plan = planOf(shapes);
-  EXPECT_EQ(plan.stepsA, (sizeList{2, 2, 6, 6}));
-  EXPECT_EQ(plan.stepsB, (sizeList{1, 5, 15, 30}));
-  EXPECT_EQ(plan.stepsC, (sizeList{2, 10, 30, 60}));
+  EXPECT_EQ(plan.steps[0], (sizeList{2, 2, 6, 6}));
+  EXPECT_EQ(plan.steps[1], (sizeList{1, 5, 15, 30}));
+  EXPECT_EQ(plan.outSteps, (sizeList{2, 10, 30, 60}));
 }
 
 // Every run of a random plan is contiguous in the output and, for an operand that varies in it, in that operand.
@@ -100,9 +101,9 @@ TEST(ExpansionPlan, CutsRandomMeetingsIntoRunsOfOneKind) {
 }
 
 void expectAtRun(odometer const& at, meetingShapes const& shapes, expansionPlan const& plan, unsigned long run) {
-  ASSERT_EQ(at.offsetC(), run * plan.run) << shapes << ", run " << run;
-  ASSERT_EQ(at.offsetA(), shapes.offsetInA(run * plan.run)) << shapes << ", run " << run;
-  ASSERT_EQ(at.offsetB(), shapes.offsetInB(run * plan.run)) << shapes << ", run " << run;
+  ASSERT_EQ(at.outOffset(), run * plan.run) << shapes << ", run " << run;
+  ASSERT_EQ(at.offsets()[0], shapes.offsetInA(run * plan.run)) << shapes << ", run " << run;
+  ASSERT_EQ(at.offsets()[1], shapes.offsetInB(run * plan.run)) << shapes << ", run " << run;
 }
 
 TEST(Odometer, AdvancesThroughTheRunsInOrder) {
@@ -150,7 +151,7 @@ TEST(ForEachRun, VisitsTheRunsInAscendingOrder) {
     const expansionPlan plan = planOf(shapes);
     std::vector<visit> visits;
     half_utils::forEachRun(plan,
-                           [&](unsigned long a, unsigned long b, unsigned long c) { visits.emplace_back(a, b, c); });
+                           [&](runStart const& start, unsigned long c) { visits.emplace_back(start[0], start[1], c); });
     ASSERT_EQ(visits, expectedVisits(shapes, plan)) << shapes;
   }
 }
@@ -162,8 +163,8 @@ TEST(ForEachRunInParallel, VisitsEachRunOnceOnAnyNumberOfThreads) {
       for (const unsigned long grainLimit : {2UL, 32UL, 128UL}) {
         std::vector<visit> visits(plan.runs);
         std::vector<std::atomic<int>> counts(plan.runs);
-        half_utils::forEachRunInParallel(plan, grainLimit, [&](unsigned long a, unsigned long b, unsigned long c) {
-          visits.at(c / plan.run) = {a, b, c};
+        half_utils::forEachRunInParallel(plan, grainLimit, [&](runStart const& start, unsigned long c) {
+          visits.at(c / plan.run) = {start[0], start[1], c};
           ++counts.at(c / plan.run);
         });
         ASSERT_EQ(visits, expectedVisits(shapes, plan)) << shapes << " on " << threads << " threads";
@@ -178,7 +179,7 @@ TEST(ForEachRunInParallel, RethrowsWhatLeavesABody) {
   const expansionPlan plan = planOf(shapes);
   onEachThreadCount([&](int) {
     EXPECT_THROW(half_utils::forEachRunInParallel(plan, 32,
-                                                  [&](unsigned long, unsigned long, unsigned long c) {
+                                                  [&](runStart const&, unsigned long c) {
                                                     if (c == 777 * plan.run) throw std::domain_error("run 777");
                                                   }),
                  std::domain_error);

@@ -77,7 +77,9 @@ void expectForwarded(char const* name, Function*& entry, Result (*facade)(Args..
 }
 
 TEST(Facade, HandsEveryArgumentAndTheResultThrough) {
-  forEachEntry([](char const* name, auto& entry, auto, auto facade) { expectForwarded(name, entry, facade); });
+  forEachEntry([](char const* name, auto& entry, auto, auto facade) {
+    if constexpr (!std::is_null_pointer_v<decltype(facade)>) expectForwarded(name, entry, facade);
+  });
 }
 
 TEST(Facade, FollowsAReplacedEntryAndItsRestoration) {

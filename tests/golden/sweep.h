@@ -282,6 +282,34 @@ void sweepReduction(std::string_view name,
   hash.print(name);
 }
 
+template <class A, class B, class C, class Out>
+using expandingTernary = void (*)(A*, B*, C*, Out*, unsigned long, unsigned long, sizes, unsigned long, unsigned long,
+                                  sizes, unsigned long, unsigned long, sizes, unsigned long, unsigned long, sizes);
+
+// Three arrays that meet by implicit expansion: element by element, and a box of notable values in which each operand
+// has a dimension of its own.
+template <class A, class B, class C, class Out>
+void sweep(std::string_view name, expandingTernary<A, B, C, Out> entry) {
+  resultHash hash;
+  const auto meet = [&](std::vector<storage<A>> a, std::vector<storage<B>> b, std::vector<storage<C>> c, sizes dimsA,
+                        sizes dimsB, sizes dimsC, sizes dimsOut) {
+    std::vector<storage<Out>> d(dimsOut[0] * dimsOut[1] * dimsOut[2]);
+    entry(as<A>(a.data()), as<B>(b.data()), as<C>(c.data()), as<Out>(d.data()), a.size(), 3, dimsA, b.size(), 3, dimsB,
+          c.size(), 3, dimsC, d.size(), 3, dimsOut);
+    hash.add(d.data(), d.size());
+  };
+  const unsigned long flat[] = {meetings, 1, 1};
+  meet(meetingOf<A>(meetings, 1), meetingOf<B>(meetings, 25173), meetingOf<C>(meetings, 25173ul * 25173ul), flat, flat,
+       flat, flat);
+  const auto a = gridOf<A>();
+  const auto b = gridOf<B>();
+  const auto c = gridOf<C>();
+  const unsigned long first[] = {a.size(), 1, 1}, second[] = {1, b.size(), 1}, third[] = {1, 1, c.size()};
+  const unsigned long box[] = {a.size(), b.size(), c.size()};
+  meet(a, b, c, first, second, third, box);
+  hash.print(name);
+}
+
 // All points of a grid, one call for each: the operands' lists of values, first operand fastest.
 template <class... Args, class Visit>
 void forEachPoint(std::tuple<std::vector<storage<Args>>...> const& lists, Visit visit) {

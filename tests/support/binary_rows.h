@@ -7,6 +7,7 @@
 
 #include "tests/support/shapes.h"
 #include "tests/support/unary_rows.h"
+#include "zthalf/half_extrema.h"
 #include "zthalf/half_ops.h"
 #include "zthalf/half_ptr.h"
 #include "zthalf/half_vector.h"
@@ -97,6 +98,48 @@ void forEachBinaryRow(Visit visit) {
   ZTHALF_REMAINDER_ENTRIES(ZTHALF_VISIT_REMAINDER_ROW)
 }
 
+// The functions that choose an entry by the types they are told, as functions of typed operands.
+namespace chosen {
+
+template <class T>
+inline constexpr FloatTypeEnum typeOf = std::is_same_v<T, double>  ? FloatTypeDouble
+                                        : std::is_same_v<T, float> ? FloatTypeSingle
+                                                                   : FloatTypeHalf;
+template <class T>
+inline constexpr FloatTypeEnum typeOf<std::complex<T>> = typeOf<T>;
+template <class T>
+inline constexpr bool isComplex = false;
+template <class T>
+inline constexpr bool isComplex<std::complex<T>> = true;
+
+#define ZTHALF_DEFINE_CHOSEN(op, selector, omitNaN)                                                                   \
+  template <class Left, class Right, class Out>                                                                       \
+  void op(Left* a, Right* b, Out* c, unsigned long na, unsigned long ndimsA, unsigned long const* dimsA,              \
+          unsigned long nb, unsigned long ndimsB, unsigned long const* dimsB, unsigned long nc, unsigned long ndimsC, \
+          unsigned long const* dimsC) {                                                                               \
+    half_vector::selector(a, b, c, na, ndimsA, dimsA, nb, ndimsB, dimsB, nc, ndimsC, dimsC, typeOf<Left>,             \
+                          typeOf<Right>, isComplex<Left>, isComplex<Right>, omitNaN);                                 \
+  }
+ZTHALF_DEFINE_CHOSEN(min, minBinOp, false)
+ZTHALF_DEFINE_CHOSEN(minOmitNaN, minBinOp, true)
+ZTHALF_DEFINE_CHOSEN(max, maxBinOp, false)
+ZTHALF_DEFINE_CHOSEN(maxOmitNaN, maxBinOp, true)
+#undef ZTHALF_DEFINE_CHOSEN
+
+}  // namespace chosen
+
+#define ZTHALF_VISIT_CHOSEN_ROW(op, Left, Right, Out)                             \
+  visit(binaryRow<element::Left, element::Right, element::Out>{                   \
+      #op #Left #Right, &chosen::op<element::Left, element::Right, element::Out>, \
+      ZTHALF_ROW_ENTRY(op, Left, Right, Out), ZTHALF_ROW_OPERATION(op, Left, Right, Out)});
+
+// visit(row) for every binary row that has no function of the facade to itself.
+template <class Visit>
+void forEachChosenBinaryRow(Visit visit) {
+  ZTHALF_CHOSEN_BINARY_ENTRIES(ZTHALF_VISIT_CHOSEN_ROW)
+}
+
+#undef ZTHALF_VISIT_CHOSEN_ROW
 #undef ZTHALF_VISIT_ROW
 #undef ZTHALF_VISIT_REMAINDER_ROW
 #undef ZTHALF_ROW_REMAINDER_ENTRY

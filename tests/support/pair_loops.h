@@ -58,9 +58,16 @@ void expectAscendingPairs(stage& on, pairPlacement at, pairing how, unsigned lon
       << textOf(at, how, n);
 }
 
+// The drivers below try every count and offset, or with a stride every so many: where to begin, at another one each
+// time.
+inline unsigned strideStart(unsigned stride) {
+  static unsigned starts = 0;
+  return starts++ % stride;
+}
+
 // Every count, with three misalignments of each array in such combinations that any two arrays meet in all nine ways.
 template <class Left, class Right, class Out, class Pass, class Element>
-void checkPairCounts(Pass pass, Element element, pairingList pairings) {
+void checkPairCounts(Pass pass, Element element, pairingList pairings, unsigned stride = 1) {
   constexpr std::size_t gap = 2 * stage::alignment;
   constexpr std::size_t right = gap + roundedUp(mostCount * sizeof(Left)) + gap;
   constexpr std::size_t output = right + roundedUp(mostCount * sizeof(Right)) + gap;
@@ -73,7 +80,7 @@ void checkPairCounts(Pass pass, Element element, pairingList pairings) {
       drawInto<Left>(on.initial() + at.left, mostCount, bits);
       drawInto<Right>(on.initial() + at.right, mostCount, bits);
       for (const pairing how : pairings) {
-        for (unsigned long n = 0; n <= mostCount; ++n) {
+        for (unsigned long n = strideStart(stride); n <= mostCount; n += stride) {
           expectAscendingPairs<Left, Right, Out>(on, at, how, n, pass, element);
           if (::testing::Test::HasFailure()) return;
         }
@@ -85,7 +92,7 @@ void checkPairCounts(Pass pass, Element element, pairingList pairings) {
 // The output at every offset of up to 40 elements, of the larger type, around one operand while the other is far away;
 // and all three arrays in one place, if their elements have one size.
 template <class Left, class Right, class Out, class Pass, class Element>
-void checkPairOverlaps(Pass pass, Element element, pairingList pairings) {
+void checkPairOverlaps(Pass pass, Element element, pairingList pairings, unsigned stride = 1) {
   constexpr std::size_t largest = std::max({sizeof(Left), sizeof(Right), sizeof(Out)});
   constexpr std::size_t reach = 40 * largest;
   constexpr std::size_t middle = roundedUp(reach + stage::alignment);
@@ -104,7 +111,8 @@ void checkPairOverlaps(Pass pass, Element element, pairingList pairings) {
   };
   // Of the output and the operand that it overlaps the less aligned one is moved.
   const auto checkAround = [&](std::size_t unit, auto placementAt) {
-    for (std::size_t moved = middle - reach; moved <= middle + reach; moved += unit) {
+    const std::size_t first = middle - reach + strideStart(stride) * unit;
+    for (std::size_t moved = first; moved <= middle + reach; moved += unit * stride) {
       if (!check(placementAt(moved))) return;
     }
   };
@@ -119,12 +127,12 @@ void checkPairOverlaps(Pass pass, Element element, pairingList pairings) {
 
 // Arrays that begin or end at a page that may not be touched.
 template <class Left, class Right, class Out, class Pass, class Element>
-void checkPairFences(Pass pass, Element element, pairingList pairings) {
+void checkPairFences(Pass pass, Element element, pairingList pairings, unsigned stride = 1) {
   const fencedMemory left, right, output;
   bitSource bits(75);
   for (const bool atEnd : {false, true}) {
     for (const pairing how : pairings) {
-      for (unsigned long n = 0; n <= mostCount; ++n) {
+      for (unsigned long n = strideStart(stride); n <= mostCount; n += stride) {
         const unsigned long na = how == pairing::oneOnTheLeft ? 1 : n, nb = how == pairing::oneOnTheRight ? 1 : n;
         std::byte* const a = left.at(atEnd, na * sizeof(Left));
         std::byte* const b = right.at(atEnd, nb * sizeof(Right));
@@ -143,10 +151,10 @@ void checkPairFences(Pass pass, Element element, pairingList pairings) {
 }
 
 template <class Left, class Right, class Out, class Pass, class Element>
-void checkPairLoop(Pass pass, Element element, pairingList pairings = allPairings) {
-  checkPairCounts<Left, Right, Out>(pass, element, pairings);
-  checkPairOverlaps<Left, Right, Out>(pass, element, pairings);
-  checkPairFences<Left, Right, Out>(pass, element, pairings);
+void checkPairLoop(Pass pass, Element element, pairingList pairings = allPairings, unsigned stride = 1) {
+  checkPairCounts<Left, Right, Out>(pass, element, pairings, stride);
+  checkPairOverlaps<Left, Right, Out>(pass, element, pairings, stride);
+  checkPairFences<Left, Right, Out>(pass, element, pairings, stride);
 }
 
 }  // namespace zthalf::testing

@@ -20,24 +20,23 @@ inline unsigned long countOf(sizeList const& dims) {
 // A dimension beyond the list counts as 1.
 inline unsigned long sizeIn(sizeList const& dims, unsigned long d) { return d < dims.size() ? dims[d] : 1; }
 
+// Where an operand's element for output element k stands in its array.
+inline unsigned long offsetIn(sizeList const& operand, sizeList const& out, unsigned long k) {
+  unsigned long offset = 0, step = 1;
+  for (unsigned long d = 0; d < out.size(); ++d) {
+    const unsigned long index = k % out[d];
+    k /= out[d];
+    if (sizeIn(operand, d) != 1) offset += index * step;
+    step *= sizeIn(operand, d);
+  }
+  return offset;
+}
+
 struct meetingShapes {
   sizeList a, b, c;
 
-  // Where the operands of output element k stand in their arrays.
-  unsigned long offsetInA(unsigned long k) const { return offsetIn(a, k); }
-  unsigned long offsetInB(unsigned long k) const { return offsetIn(b, k); }
-
- private:
-  unsigned long offsetIn(sizeList const& operand, unsigned long k) const {
-    unsigned long offset = 0, step = 1;
-    for (unsigned long d = 0; d < c.size(); ++d) {
-      const unsigned long index = k % c[d];
-      k /= c[d];
-      if (sizeIn(operand, d) != 1) offset += index * step;
-      step *= sizeIn(operand, d);
-    }
-    return offset;
-  }
+  unsigned long offsetInA(unsigned long k) const { return offsetIn(a, c, k); }
+  unsigned long offsetInB(unsigned long k) const { return offsetIn(b, c, k); }
 };
 
 inline std::ostream& operator<<(std::ostream& out, meetingShapes const& shapes) {
@@ -57,6 +56,37 @@ inline meetingShapes met(sizeList a, sizeList b) {
     c[d] = left == 0 || right == 0 ? 0 : std::max(left, right);
   }
   return {std::move(a), std::move(b), std::move(c)};
+}
+
+// Three operands and their output.
+struct tripleShapes {
+  sizeList a, b, c, out;
+};
+
+inline std::ostream& operator<<(std::ostream& out, tripleShapes const& shapes) {
+  return out << meetingShapes{shapes.a, shapes.b, shapes.out} << ", third operand "
+             << meetingShapes{shapes.c, {}, shapes.out};
+}
+
+inline tripleShapes met(sizeList a, sizeList b, sizeList c) {
+  sizeList out = met(met(a, b).c, c).c;
+  return {std::move(a), std::move(b), std::move(c), std::move(out)};
+}
+
+// Up to four dimensions of sizes 1 to 5 that each operand has or not.
+inline tripleShapes randomTriple(std::mt19937_64& bits) {
+  const auto below = [&](unsigned long limit) { return static_cast<unsigned long>(bits() % limit); };
+  const unsigned long ndims = below(5);
+  sizeList operands[3];
+  for (unsigned long d = 0; d < ndims; ++d) {
+    const unsigned long size = below(50) == 0 ? 0 : 1 + below(5);
+    for (sizeList& dims : operands) dims.push_back(below(3) == 0 ? 1 : size);
+  }
+  for (sizeList& dims : operands) {
+    if (below(6) == 0) std::fill(dims.begin(), dims.end(), 1);
+    while (!dims.empty() && dims.back() == 1 && below(3) != 0) dims.pop_back();
+  }
+  return met(operands[0], operands[1], operands[2]);
 }
 
 // Up to six dimensions of sizes 1 to 6, now and then 0, each of them expanded in neither, one or both operands, with

@@ -223,3 +223,99 @@
   ZTHALF_REDUCTIONS_ALONG_DIMENSIONS(X, sum)  \
   ZTHALF_REDUCTIONS_ALONG_DIMENSIONS(X, prod) \
   ZTHALF_REDUCTIONS_ALONG_DIMENSIONS(X, mean)
+
+// Comparison rows: X(entry, operation, left tag, right tag). The output is logical.
+
+#define ZTHALF_COMPARED_WITH(X, op, Tag)    \
+  X(op##Half##Tag, op, Half, Tag)           \
+  X(op##CplxHalf##Tag, op, CplxHalf, Tag)   \
+  X(op##HalfCplx##Tag, op, Half, Cplx##Tag) \
+  X(op##CplxHalfCplx##Tag, op, CplxHalf, Cplx##Tag)
+
+// Only a logical operand may stand on the left of a half, and those entries are named in a way of their own.
+#define ZTHALF_COMPARED_WITH_LOGICAL(X, op)              \
+  X(op##HalfLogical, op, Half, Logical)                  \
+  X(op##LogicalHalf, op, Logical, Half)                  \
+  X(op##RealToComplexLogicalHalf, op, Logical, CplxHalf) \
+  X(op##ComplexToRealHalfLogical, op, CplxHalf, Logical)
+
+#define ZTHALF_COMPARISON(X, op)      \
+  ZTHALF_COMPARED_WITH(X, op, Half)   \
+  ZTHALF_COMPARED_WITH(X, op, Single) \
+  ZTHALF_COMPARED_WITH(X, op, Double) \
+  ZTHALF_COMPARED_WITH(X, op, Int64)  \
+  ZTHALF_COMPARED_WITH(X, op, Int32)  \
+  ZTHALF_COMPARED_WITH(X, op, Int16)  \
+  ZTHALF_COMPARED_WITH(X, op, Int8)   \
+  ZTHALF_COMPARED_WITH(X, op, UInt64) \
+  ZTHALF_COMPARED_WITH(X, op, UInt32) \
+  ZTHALF_COMPARED_WITH(X, op, UInt16) \
+  ZTHALF_COMPARED_WITH(X, op, UInt8)  \
+  ZTHALF_COMPARED_WITH_LOGICAL(X, op)
+
+#define ZTHALF_COMPARISON_ENTRIES(X) \
+  ZTHALF_COMPARISON(X, eq)           \
+  ZTHALF_COMPARISON(X, ne)           \
+  ZTHALF_COMPARISON(X, gt)           \
+  ZTHALF_COMPARISON(X, ge)           \
+  ZTHALF_COMPARISON(X, lt)           \
+  ZTHALF_COMPARISON(X, le)
+
+// Ternary rows with implicit expansion: X(operation, first tag, second tag, third tag, output tag). The output has the
+// narrowest of the three types.
+#define ZTHALF_FMA_ENTRIES(X)            \
+  X(fma, Half, Half, Half, Half)         \
+  X(fma, Half, Half, Single, Half)       \
+  X(fma, Half, Half, Double, Half)       \
+  X(fma, Half, Single, Half, Half)       \
+  X(fma, Half, Single, Single, Half)     \
+  X(fma, Half, Single, Double, Half)     \
+  X(fma, Half, Double, Half, Half)       \
+  X(fma, Half, Double, Single, Half)     \
+  X(fma, Half, Double, Double, Half)     \
+  X(fma, Single, Half, Half, Half)       \
+  X(fma, Single, Half, Single, Half)     \
+  X(fma, Single, Half, Double, Half)     \
+  X(fma, Single, Single, Half, Half)     \
+  X(fma, Single, Single, Single, Single) \
+  X(fma, Single, Single, Double, Single) \
+  X(fma, Single, Double, Half, Half)     \
+  X(fma, Single, Double, Single, Single) \
+  X(fma, Single, Double, Double, Single) \
+  X(fma, Double, Half, Half, Half)       \
+  X(fma, Double, Half, Single, Half)     \
+  X(fma, Double, Half, Double, Half)     \
+  X(fma, Double, Single, Half, Half)     \
+  X(fma, Double, Single, Single, Single) \
+  X(fma, Double, Single, Double, Single) \
+  X(fma, Double, Double, Half, Half)     \
+  X(fma, Double, Double, Single, Single) \
+  X(fma, Double, Double, Double, Double)
+// Binary rows that the table has and the facade has no function for: half_vector::minBinOp and maxBinOp choose among
+// them.
+
+#define ZTHALF_MIN_ENTRIES(X) ZTHALF_TWENTY_PAIRS(X, min) ZTHALF_TWENTY_PAIRS(X, minOmitNaN)
+#define ZTHALF_MAX_ENTRIES(X) ZTHALF_TWENTY_PAIRS(X, max) ZTHALF_TWENTY_PAIRS(X, maxOmitNaN)
+
+#define ZTHALF_CHOSEN_BINARY_ENTRIES(X) ZTHALF_MIN_ENTRIES(X) ZTHALF_MAX_ENTRIES(X)
+
+// Reductions of min and max: X(entry, shape, element tag, accumulator tag, template in namespace half). The shape is an
+// alias of entry_shapes.h without its ending.
+#define ZTHALF_EXTREMUM_REDUCTIONS(X, prefix, op, Element, Accumulator)                                 \
+  X(prefix##SimpleReduce, unary, Element, Accumulator, op##SimpleReduce)                                \
+  X(prefix##SimpleReduceOmitNaN, unary, Element, Accumulator, op##SimpleReduceOmitNaN)                  \
+  X(prefix##SimpleReduceWithIndex, indexed_whole, Element, Accumulator, op##SimpleReduce)               \
+  X(prefix##SimpleReduceWithIndexOmitNaN, indexed_whole, Element, Accumulator, op##SimpleReduceOmitNaN) \
+  X(prefix##Reduce, reduction, Element, Accumulator, op##ReduceFunc)                                    \
+  X(prefix##ReduceOmitNaN, reduction, Element, Accumulator, op##ReduceFuncOmitNaN)                      \
+  X(prefix##ReduceWithIndex, indexed_reduction, Element, Accumulator, op##ReduceFunc)                   \
+  X(prefix##ReduceWithIndexOmitNaN, indexed_reduction, Element, Accumulator, op##ReduceFuncOmitNaN)
+
+#define ZTHALF_MIN_REDUCTION_ENTRIES(X)                 \
+  ZTHALF_EXTREMUM_REDUCTIONS(X, min, min, Half, Single) \
+  ZTHALF_EXTREMUM_REDUCTIONS(X, minCplx, min, CplxHalf, CplxSingle)
+#define ZTHALF_MAX_REDUCTION_ENTRIES(X)                 \
+  ZTHALF_EXTREMUM_REDUCTIONS(X, max, max, Half, Single) \
+  ZTHALF_EXTREMUM_REDUCTIONS(X, maxCplx, max, CplxHalf, CplxSingle)
+
+#define ZTHALF_EXTREMUM_REDUCTION_ENTRIES(X) ZTHALF_MIN_REDUCTION_ENTRIES(X) ZTHALF_MAX_REDUCTION_ENTRIES(X)

@@ -24,5 +24,17 @@ using binary_entry = void(Left*, Right*, Out*,                                  
 
 template <class In, class Out>
 using reduction_entry = void(In*, Out*, unsigned long, unsigned long*, bool);  // dimensions, sizes, first one reduced
+template <class A, class B, class C, class Out>
+using ternary_entry = void(A*, B*, C*, Out*,                                     //
+                           unsigned long, unsigned long, unsigned long const*,   // a: count, dimensions, sizes
+                           unsigned long, unsigned long, unsigned long const*,   // b
+                           unsigned long, unsigned long, unsigned long const*,   // c
+                           unsigned long, unsigned long, unsigned long const*);  // output
+
+// The index of the result beside it; the last flag is whether it counts in the whole array.
+template <class In, class Out>
+using indexed_whole_entry = void(In*, Out*, double*, unsigned long);
+template <class In, class Out>
+using indexed_reduction_entry = void(In*, Out*, double*, unsigned long, unsigned long*, bool, bool);
 
 }  // namespace half_ptr

@@ -11,6 +11,16 @@ namespace half::scalar::emulated {
 struct fmaFtor {
   static constexpr unsigned long grain = 256;
 
+  // A double factor takes the fused operation, which is a call.
+  template <class A, class B, class C>
+  static constexpr bool baseOnlyFor = zthalf::anyDouble<A, B>;
+
+  // Sums in double are long passes: reading a single element again costs a twentieth of one, and passes for every
+  // mixture of arrays and single elements would be a megabyte.
+  template <class A, class B, class C>
+  static constexpr bool repeatsSinglesFor =
+      !zthalf::anyDouble<A, B> && (zthalf::anyFloat<A, B> || zthalf::anyDouble<C>);
+
   template <class A, class B, class C>
   ZTHALF_INLINE auto operator()(A x, B y, C z) const {
     return element(zthalf::multiplyAdd(plain(x), plain(y), plain(z)));
