@@ -137,6 +137,7 @@ class laneRows {
   laneRows& operator=(laneRows const&) = delete;
 
   void add(source const* elements, unsigned long length, reducedPosition) {
+    fetchAhead(elements, length);
     if (!settles_) {
       plain_(patternsOf(elements), length, now_, then_, widest, &settles_);
       settles_ &= !Step::plainIsEnough;
@@ -157,6 +158,19 @@ class laneRows {
  private:
   using wide = typename Step::wide;
 
+  // Rows lie far apart, in pages of their own where the source is wide, so that nothing else brings them near in time.
+  // An address that is not there does no harm.
+  void fetchAhead(source const* elements, unsigned long length) {
+    const auto here = reinterpret_cast<std::uintptr_t>(elements);
+    const auto ahead = here + rowsAhead * (here - before_);
+    before_ = here;
+    for (unsigned long byte = 0; byte < length * sizeof(source); byte += 64)
+      __builtin_prefetch(reinterpret_cast<void const*>(ahead + byte));
+  }
+
+  static constexpr unsigned long rowsAhead = 4;
+
+  std::uintptr_t before_ = 0;
   wide values_[Step::parts * widest], spare_[Step::parts * widest];
   wide* now_ = values_;
   wide* then_ = spare_;
