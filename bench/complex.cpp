@@ -23,6 +23,7 @@ void row(std::string const& name, complexCall ours, pairPeer<complexHalf> peerPa
 const bool added = addRows([] {
   row("complex-plus", half_vector::plus, &peerPasses::complexPlus);
   row("complex-times", half_vector::times, &peerPasses::complexTimes);
+  pairRow<half_t, complexHalf, complexHalf>("complex-times-real", half_vector::times);
   row("complex-rdivide", half_vector::rdivide, nullptr);
   unaryRow<complexHalf, half_t>("complex-abs", half_vector::abs);
   unaryRow<complexHalf, complexHalf>("complex-sign", half_vector::sign);

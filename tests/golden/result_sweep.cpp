@@ -36,6 +36,19 @@ void sweepOperators() {
   sweepScalar<T, T>("a<=b", [](T a, T b) { return a <= b; });
   sweepScalar<T, T>("a>b", [](T a, T b) { return a > b; });
   sweepScalar<T, T>("a>=b", [](T a, T b) { return a >= b; });
+
+  using Z = std::complex<half_t>;
+  sweepScalar<Z>("-z", [](Z z) { return -z; });
+  sweepScalar<Z, Z>("z+w", [](Z z, Z w) { return z + w; });
+  sweepScalar<Z, Z>("z-w", [](Z z, Z w) { return z - w; });
+  sweepScalar<Z, Z>("z*w", [](Z z, Z w) { return z * w; });
+  sweepScalar<Z, Z>("z/w", [](Z z, Z w) { return z / w; });
+  sweepScalar<Z, Z>("z==w", [](Z z, Z w) { return z == w; });
+  sweepScalar<Z, Z>("z!=w", [](Z z, Z w) { return z != w; });
+  sweepScalar<Z, Z>("z<w", [](Z z, Z w) { return z < w; });
+  sweepScalar<Z, Z>("z<=w", [](Z z, Z w) { return z <= w; });
+  sweepScalar<Z, Z>("z>w", [](Z z, Z w) { return z > w; });
+  sweepScalar<Z, Z>("z>=w", [](Z z, Z w) { return z >= w; });
 }
 
 }  // namespace

@@ -77,6 +77,16 @@ ZTHALF_INLINE complexOf<Wide> timesComplex(Unit unit, complexOf<Wide> x, complex
   return {re, 0};
 }
 
+// A complex half z times a real half x, without a branch.
+ZTHALF_INLINE complexHalf timesRealHalf(complexHalf z, std::uint16_t x) {
+  const float factor = widen<float>(x);
+  const std::uint16_t re = settled(widen<float>(z.re) * factor, z.re, x);
+  const std::uint16_t im = settled(widen<float>(z.im) * factor, z.im, x);
+  const auto noIm = maskOf<std::uint16_t>(pattern::isZero(z.im));
+  const auto noRe = maskOf<std::uint16_t>(pattern::isZero(z.re));
+  return {static_cast<std::uint16_t>(re & ~(noRe & ~noIm)), static_cast<std::uint16_t>(im & ~noIm)};
+}
+
 // The product of two complex operands, or of a complex and a real one.
 template <class A, class B>
 ZTHALF_INLINE complexHalf complexProduct(A x, B y) {
@@ -88,6 +98,12 @@ ZTHALF_INLINE complexHalf complexProduct(A x, B y) {
     using wide = std::conditional_t<isHalfOperand<part>, float, double>;
     return narrowed(
         onDefinedUnit([&](auto unit) { return timesComplex<way>(unit, exactly<wide>(x), exactly<wide>(y)); }));
+  } else if constexpr (areMadeOfHalves<A, B>) {
+    if constexpr (isComplexOperand<A>) {
+      return timesRealHalf(x, y);
+    } else {
+      return timesRealHalf(y, x);
+    }
   } else {
     using wide = workingTypeOf<A, B>;
     return narrowed(onDefinedUnit([&](auto unit) {

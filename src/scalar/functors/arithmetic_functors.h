@@ -34,8 +34,7 @@ struct minusFtor {
 struct timesFtor {
   static constexpr unsigned long grain = 256;
   template <class A, class B>
-  static constexpr bool baseOnlyFor =
-      isComplexPair<A, B> && !(std::is_same_v<A, complexHalf> && std::is_same_v<B, complexHalf>);
+  static constexpr bool baseOnlyFor = isMixedComplexPair<A, B>;
   template <class A, class B>
   ZTHALF_INLINE auto operator()(A x, B y) const {
     return element(zthalf::anyProduct(plainOperand(x), plainOperand(y)));

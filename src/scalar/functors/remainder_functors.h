@@ -2,6 +2,8 @@
 // Internal: promises nothing to users of the library.
 #pragma once
 
+#include <type_traits>
+
 #include "scalar/half_remainder.h"
 #include "scalar/mixed_operands.h"
 #include "scalar/mixed_remainder.h"
@@ -13,6 +15,8 @@ namespace half::impl::emulated {
 
 struct modInLoopFtor {
   static constexpr unsigned long grain = 64;
+  template <class A, class B>
+  static constexpr bool baseOnlyFor = !std::is_same_v<A, B>;  // beside a float or double a long division
 
   ZTHALF_INLINE unsigned short operator()(unsigned short x, unsigned short y) const {
     return zthalf::modOfHalves(x, y);
@@ -26,6 +30,8 @@ struct modInLoopFtor {
 
 struct remInLoopFtor {
   static constexpr unsigned long grain = 64;
+  template <class A, class B>
+  static constexpr bool baseOnlyFor = !std::is_same_v<A, B>;  // beside a float or double a long division
 
   ZTHALF_INLINE unsigned short operator()(unsigned short x, unsigned short y) const {
     return zthalf::remOfHalves(x, y);

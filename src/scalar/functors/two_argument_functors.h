@@ -23,6 +23,8 @@ struct hypotFtor {
 // The ordinate comes first.
 struct atan2Ftor {
   static constexpr unsigned long grain = 256;
+  template <class A, class B>
+  static constexpr bool baseOnlyFor = zthalf::anyDouble<A, B>;  // a call for each element
 
   template <class A, class B>
   ZTHALF_INLINE fp16binary_t operator()(A y, B x) const {
