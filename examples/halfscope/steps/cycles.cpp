@@ -13,9 +13,13 @@ namespace halfscope {
 
 namespace {
 
-// From one cycle in all rows to so many: the work grows with rows times cycles. Half a cycle in each row is not a
-// cycle.
-std::size_t cyclesToTry(std::size_t rows) { return std::min<std::size_t>((rows - 1) / 2, 64); }
+// From one cycle in all rows to so many. Half a cycle in each row is not a cycle any more, and as the work is rows
+// times columns times cycles, there are fewer of them for very large tables.
+std::size_t cyclesToTry(matrix const& values) {
+  constexpr std::size_t usual = 64, fewest = 8, enoughWork = std::size_t{1} << 25;
+  const std::size_t affordable = std::max(fewest, enoughWork / values.cells.size());
+  return std::min({(values.rows - 1) / 2, usual, affordable});
+}
 
 // For each column (down) and number of cycles (across, beginning with 1) half the amplitude.
 struct spectra {
@@ -50,7 +54,7 @@ double halfAmplitude(double const* deviation, std::size_t rows, turns const& tur
 
 spectra spectraOf(halfMatrix const& deviations, matrix const& exact) {
   const std::size_t rows = exact.rows, columns = exact.columns;
-  const std::size_t most = cyclesToTry(rows);
+  const std::size_t most = cyclesToTry(exact);
   const turns turn(rows);
   const complexHalfMatrix turnAsHalf = toComplex(toHalf(turn.real), toHalf(turn.imaginary));
   complexHalfMatrix phases(rows, 1), products(rows, columns), averages(columns, most);
@@ -135,21 +139,22 @@ std::string agreement(std::vector<columnCycles> const& columns) {
       others.push_back(c.name);
   }
   std::string text;
+  const std::string where = same < found
+                                ? " the same cycle in " + countText(same) + " of " + countText(found) + " columns"
+                            : found == 1 ? " it too"
+                                         : " the same cycle in all " + countText(found) + " columns that have one";
   if (same > 0)
-    addSentence(
-        text,
-        (same == found ? std::string(found == 1 ? "Half finds it too," : "Half finds the same cycle in every column,")
-                       : "Half finds the same cycle in " + countText(same) + " of " + countText(found) + " columns,") +
-            " with amplitudes off by " + ulpText(worst) + " ulp at most.");
+    addSentence(text, "Half finds" + where + ", with its amplitude off by " + ulpText(worst) + " ulp" +
+                          (found == 1 ? "." : " at most."));
   if (!others.empty()) addSentence(text, "Half takes another one for the strongest in " + nameList(others) + ".");
   if (!lost.empty()) addSentence(text, "Of " + nameList(lost) + " half keeps too little to tell.");
   return text;
 }
 
-std::string notice(std::vector<columnCycles> const& columns, std::size_t rows) {
+std::string notice(std::vector<columnCycles> const& columns, std::size_t most) {
   columnCycles const* best = clearest(columns);
   if (best == nullptr) return "No column of finite values differs from a straight line in enough rows for a cycle.";
-  std::string text = "What is left beside a straight line, seen as waves of 1 to " + std::to_string(cyclesToTry(rows)) +
+  std::string text = "What is left beside a straight line, seen as waves of 1 to " + std::to_string(most) +
                      " cycles: " + nameInText(best->name) + " goes up and down most clearly, once in " +
                      decimalText(best->rowsPerCycle, 1) + " rows, by " + valueText(best->amplitude) +
                      " to either side.";
@@ -170,14 +175,15 @@ std::vector<heading> headings() {
 }
 
 std::vector<cell> row(columnCycles const& c, double trend) {
+  const cell trendCell = std::isfinite(trend) ? valueCell(trend) : noCell();
   if (!c.any) {
     std::vector<cell> cells(headings().size(), noCell());
     cells[0] = textCell(c.name);
-    cells[1] = valueCell(trend);
+    cells[1] = trendCell;
     return cells;
   }
   return {textCell(c.name),
-          valueCell(trend),
+          trendCell,
           countCell(static_cast<long long>(c.cycles)),
           c.anyInHalf ? countCell(static_cast<long long>(c.halfCycles), c.halfCycles != c.cycles) : noCell(),
           decimalCell(c.rowsPerCycle, 1),
@@ -212,7 +218,7 @@ section cyclesStep(table const& t) {
     columns.back().name = t.columnNames[j];
     out.rows.push_back(row(columns.back(), d.trends[j]));
   }
-  out.notice = notice(columns, t.values.rows);
+  out.notice = notice(columns, s.exact.columns);
   return out;
 }
 

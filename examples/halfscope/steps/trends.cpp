@@ -78,7 +78,7 @@ detrended withoutTrends(matrix const& values) {
       ++count;
     }
     d.exponents.push_back(exponent);
-    d.trends.push_back(std::ldexp(line.slope, exponent));
+    d.trends.push_back(finite ? std::ldexp(line.slope, exponent) : std::nan(""));
     d.meanSquares.push_back(squares / count);
     d.varies.push_back(finite && count > 2 && largest > noise);
   }
