@@ -108,8 +108,9 @@ def check_anomalies(where, entry, cells, _):
     values = [x for x in cells if x is not None]
     finite = [x for x in values if math.isfinite(x)]
     mean = math.fsum(finite) / len(finite) if finite else 0.0
-    offset = to_half(-entry["mean"])  # the report's own: its last bits depend on the order of the sum
-    found = Deviations([to_half(to_single(to_half(x) + offset)) for x in values], [x - entry["mean"] for x in values])
+    reported = number(entry["mean"])  # its last bits depend on the order of the sum
+    offset = to_half(-reported)
+    found = Deviations([to_half(to_single(to_half(x) + offset)) for x in values], [x - reported for x in values])
     expect(where, "mean", entry["mean"], mean, 1e-12)
     expect(where, "offset", entry["offset"], offset)
     expect(where, "lost", entry["lost"], found.lost)
@@ -122,7 +123,7 @@ def check_anomalies(where, entry, cells, _):
 
 
 def check_mixed(where, entry, cells, others):
-    mean = others["anomalies"]["mean"]
+    mean = number(others["anomalies"]["mean"])
     values = [x for x in cells if x is not None]
     exact = [x - mean for x in values]
     ways = {
@@ -214,7 +215,9 @@ def check_cycles(where, entry, cells, _):
         exact = [None if x is None else float(Fraction(x) - y) for x, y in zip(cells, line)]
         rest = [(i, d) for i, d in enumerate(exact) if d is not None]
         if most > 0 and len(rest) > 2 and max(abs(d) for _, d in rest) > 1e-9 * size:
-            whole = [abs(sum(d * cmath.exp(2j * math.pi * k * i / n) for i, d in rest)) / len(rest) for k in range(1, most + 1)]
+            turn = 2j * math.pi / n
+            sums = [sum(d * cmath.exp(turn * k * i) for i, d in rest) for k in range(1, most + 1)]
+            whole = [abs(x) / len(rest) for x in sums]
             best = whole.index(max(whole))
             expected["cycles"] = best + 1
             expected["rows_per_cycle"] = n / (best + 1)
@@ -230,7 +233,8 @@ def check_cycles(where, entry, cells, _):
     trend = None if slope is None else float(slope)
     expect(where, "trend", entry["trend"], trend, 1e-9, 1e-15 * (size or 0.0))
     for key in keys:
-        expect(where, key, entry[key], expected[key], 0.0 if "half" in key else 1e-9, 1e-9 if key == "error_ulp" else 1e-300)
+        tolerance = 0.0 if "half" in key else 1e-9
+        expect(where, key, entry[key], expected[key], tolerance, 1e-9 if key == "error_ulp" else 1e-300)
 
 
 CHECKS = {
