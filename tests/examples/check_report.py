@@ -208,20 +208,20 @@ def check_cycles(where, entry, cells, _):
     most = min((n - 1) // 2, 64)
     keys = ("cycles", "cycles_half", "rows_per_cycle", "share", "amplitude", "amplitude_half", "error_ulp")
     expected = dict.fromkeys(keys)
-    slope = size = None
+    slope, exponent = None, 0
     if all(math.isfinite(x) for x in present):
         line, slope = straight_line(cells)
-        size = math.ldexp(1.0, math.frexp(max(abs(x) for x in present))[1])
-        exact = [None if x is None else float(Fraction(x) - y) for x, y in zip(cells, line)]
-        rest = [(i, d) for i, d in enumerate(exact) if d is not None]
-        if most > 0 and len(rest) > 2 and max(abs(d) for _, d in rest) > 1e-9 * size:
+        exponent = math.frexp(max(abs(x) for x in present))[1]
+        scale = Fraction(2) ** exponent  # no square overflows below it
+        rest = [(i, float((Fraction(x) - y) / scale)) for i, (x, y) in enumerate(zip(cells, line)) if x is not None]
+        if most > 0 and len(rest) > 2 and max(abs(d) for _, d in rest) > 1e-9:
             turn = 2j * math.pi / n
             sums = [sum(d * cmath.exp(turn * k * i) for i, d in rest) for k in range(1, most + 1)]
             whole = [abs(x) / len(rest) for x in sums]
             best = whole.index(max(whole))
             expected["cycles"] = best + 1
             expected["rows_per_cycle"] = n / (best + 1)
-            expected["amplitude"] = 2 * whole[best]
+            expected["amplitude"] = math.ldexp(2 * whole[best], exponent)
             expected["share"] = 200 * whole[best] ** 2 / (math.fsum(d * d for _, d in rest) / len(rest))
             halves = [None if x is None else to_half(to_half(x) - float(y)) for x, y in zip(cells, line)]
             if all(d is None or math.isfinite(d) for d in halves):
@@ -229,9 +229,9 @@ def check_cycles(where, entry, cells, _):
                 if max(found) > 0:
                     expected["cycles_half"] = found.index(max(found)) + 1
                     expected["amplitude_half"] = 2 * found[best]
-                    expected["error_ulp"] = ulp_distance(found[best], whole[best])
+                    expected["error_ulp"] = ulp_distance(found[best], math.ldexp(whole[best], exponent))
     trend = None if slope is None else float(slope)
-    expect(where, "trend", entry["trend"], trend, 1e-9, 1e-15 * (size or 0.0))
+    expect(where, "trend", entry["trend"], trend, 1e-9, math.ldexp(1e-15, exponent))
     for key in keys:
         tolerance = 0.0 if "half" in key else 1e-9
         expect(where, key, entry[key], expected[key], tolerance, 1e-9 if key == "error_ulp" else 1e-300)

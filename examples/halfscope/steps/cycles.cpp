@@ -132,11 +132,12 @@ std::string agreement(std::vector<columnCycles> const& columns) {
       lost.push_back(c.name);
       continue;
     }
-    worst = std::max(worst, c.ulps);
-    if (c.halfCycles == c.cycles)
-      ++same;
-    else
+    if (c.halfCycles != c.cycles) {
       others.push_back(c.name);
+      continue;
+    }
+    ++same;
+    worst = std::max(worst, c.ulps);
   }
   std::string text;
   const std::string where = same < found
@@ -144,8 +145,8 @@ std::string agreement(std::vector<columnCycles> const& columns) {
                             : found == 1 ? " it too"
                                          : " the same cycle in all " + countText(found) + " columns that have one";
   if (same > 0)
-    addSentence(text, "Half finds" + where + ", with its amplitude off by " + ulpText(worst) + " ulp" +
-                          (found == 1 ? "." : " at most."));
+    addSentence(text, "Half finds" + where + ", with " + (same == 1 ? "an amplitude" : "amplitudes") + " off by " +
+                          ulpText(worst) + " ulp" + (same == 1 ? "." : " at most."));
   if (!others.empty()) addSentence(text, "Half takes another one for the strongest in " + nameList(others) + ".");
   if (!lost.empty()) addSentence(text, "Of " + nameList(lost) + " half keeps too little to tell.");
   return text;

@@ -68,8 +68,10 @@ std::string notice(table const& t, statistics const& s) {
   std::vector<std::string> overflowing;
   std::size_t worst = t.columnNames.size();
   double largestSingle = 0;
+  long long fitting = 0;
   for (std::size_t j = 0; j < t.columnNames.size(); ++j) {
     if (!fits(s.mean.cells[j])) continue;
+    ++fitting;
     if (std::isfinite(s.singleSums.cells[j])) largestSingle = std::max(largestSingle, s.singleError.cells[j]);
     if (!std::isfinite(s.halfSums.cells[j]))
       overflowing.push_back(t.columnNames[j]);
@@ -83,8 +85,10 @@ std::string notice(table const& t, statistics const& s) {
     addSentence(text, "Rounding every sum to half takes the mean of " + nameInText(t.columnNames[worst]) + " " +
                           ulpText(s.halfError.cells[worst]) + " ulp away from " + valueText(s.mean.cells[worst]) +
                           ", to " + valueText(s.halfSums.cells[worst]) + ".");
-  if (!overflowing.empty() || worst < t.columnNames.size())
-    addSentence(text, "Sums in single leave it at " + ulpText(largestSingle) + " ulp or less.");
+  if (fitting > 0)
+    addSentence(text, "With sums in single " +
+                          std::string(fitting == 1 ? "the mean that fits" : "every mean that fits") + " is within " +
+                          ulpText(largestSingle) + " ulp of the true one.");
   return text;
 }
 
