@@ -1,6 +1,6 @@
-// Step 4: the strongest cycle down the rows of each column. Without its straight trend, a column is multiplied by the
-// turns of a complex number and averaged: the length of the average is half the swing of that cycle. All of it in half,
-// the sums in single, beside the same in double.
+// Step 4: the strongest cycle down the rows of each column. What a column has beside its straight trend is multiplied
+// by a complex number that turns as often as the cycle does, and averaged: the longer the average, the stronger the
+// cycle. All of it in half, the sums in single, beside the same in double.
 #include <algorithm>
 #include <cmath>
 
@@ -21,7 +21,8 @@ std::size_t cyclesToTry(matrix const& values) {
   return std::min({(values.rows - 1) / 2, usual, affordable});
 }
 
-// For each column (down) and number of cycles (across, beginning with 1) half the amplitude.
+// For each column (down) and number of cycles (across, beginning with 1) the length of the average, which is half the
+// amplitude.
 struct spectra {
   halfMatrix halves;
   matrix exact;
