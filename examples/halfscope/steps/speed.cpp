@@ -75,10 +75,10 @@ std::string notice(std::vector<timing> const& timings, std::size_t elements) {
       timings.begin(), timings.end(), [](timing const& a, timing const& b) { return closeness(a) < closeness(b); });
   const auto percent = [](timing const& t) { return decimalText(100.0 * closeness(t), 0) + '%'; };
   const double pace = static_cast<double>(elements) * 1e-6 / furthest->seconds;
-  return "One thread, best of several runs over " + countText(static_cast<long long>(elements)) + " elements. " +
-         closest->operation + " comes closest to a plain copy of the same bytes with " + percent(*closest) +
-         " of its pace; furthest is " + furthest->operation + " with " + percent(*furthest) + ", which is " +
-         countText(std::llround(pace)) + " million elements a second.";
+  return "Best of several runs, on one thread but for the means, over " + countText(static_cast<long long>(elements)) +
+         " elements. " + closest->operation + " comes closest to a plain copy of the same bytes with " +
+         percent(*closest) + " of its pace; furthest is " + furthest->operation + " with " + percent(*furthest) +
+         ", which is " + countText(std::llround(pace)) + " million elements a second.";
 }
 
 }  // namespace
