@@ -1,3 +1,4 @@
+// Straight lines by least squares, in units of a power of two that keeps every square in range.
 #include "steps/trends.h"
 
 #include <algorithm>
