@@ -76,7 +76,11 @@ Words in the tables:
   subnormal   halves below 2^-14, which have fewer digits
   ulp         unit in the last place: the distance between neighbouring halves; rounding is off by half of one at most
   nearest     deviations that are the nearest half to the deviation in double precision, in percent
+  half-double what stands on either side of value - mean: values in half and the mean in double
   typical     the median
+  cycles      how often the strongest wave in a column's deviations from a straight line goes up and down in all rows;
+              share: its part in their mean square; amplitude: how far it goes to either side
+  half sums   a mean whose sum is rounded to half after every addition; single and double sums: rounded at the end
   GB/s        bytes read and written; memcpy is timed for as many of them
 )";
 }

@@ -121,8 +121,10 @@ std::string textTable(section const& s, terminal const& out) {
       if (!c.shown) continue;
       const bool first = &c == &columns[0];
       const std::string content = padded(first ? shortened(c.texts[i], c.width) : c.texts[i], c.width, first);
+      const std::size_t end = content.find_last_not_of(' ') + 1;  // colour would hide the space at a line's end
       line += std::string(first ? margin : gap, ' ') +
-              emphasised(content, c.cells[i]->remarkable ? emphasis::attention : emphasis::none, out);
+              emphasised(content.substr(0, end), c.cells[i]->remarkable ? emphasis::attention : emphasis::none, out) +
+              content.substr(end);
     }
     text += withoutTrailingSpace(line) + '\n';
   }

@@ -4,12 +4,14 @@ Halves come from the struct module's 'e' format, sums from its 'f' format, and t
 what differs and exits with 1 if anything does.
 """
 
+import cmath
 import csv
 import json
 import math
 import statistics
 import struct
 import sys
+from fractions import Fraction
 
 differences = []
 
@@ -22,12 +24,18 @@ def to_half(x):
 
 
 def to_single(x):
-    return struct.unpack("<f", struct.pack("<f", x))[0]
+    return struct.unpack("<f", struct.pack("<f", x))[0]  # sums of halves do not reach its end
 
 
 def half_ulp(x):
     """The distance between halves at the binade of x."""
     return math.ldexp(1.0, max(math.frexp(x)[1] - 11, -24)) if x else 2.0**-24
+
+
+def ulp_distance(x, y):
+    if x == 0 and y == 0:  # the two zeros are half a unit apart
+        return 0.0 if math.copysign(1.0, x) == math.copysign(1.0, y) else 0.5
+    return abs(x - y) / min(half_ulp(to_half(x)), half_ulp(to_half(y)))
 
 
 def missing(text):
@@ -52,16 +60,17 @@ def number(x):
     return float(x) if x is not None else None
 
 
-def expect(where, key, found, expected, tolerance=0.0):
+def expect(where, key, found, expected, tolerance=0.0, absolute=1e-300):
     found = number(found)
-    same = found == expected or (
-        found is not None and expected is not None and math.isclose(found, expected, rel_tol=tolerance, abs_tol=1e-300)
-    )
+    same = found == expected
+    if not same and found is not None and expected is not None:
+        both_nan = math.isnan(found) and math.isnan(expected)
+        same = both_nan or math.isclose(found, expected, rel_tol=tolerance, abs_tol=absolute)
     if not same:
         differences.append(f"{where} {key}: {found} in the report, {expected} by this check")
 
 
-def check_rounding(where, entry, cells):
+def check_rounding(where, entry, cells, _):
     values = [x for x in cells if x is not None]
     halves = [to_half(x) for x in values]
     kept = [(x, h) for x, h in zip(values, halves) if math.isfinite(h)]
@@ -83,24 +92,158 @@ def check_rounding(where, entry, cells):
     expect(where, "spacing", entry["spacing"], half_ulp(max(abs(h) for _, h in kept)) if kept else None)
 
 
-def check_anomalies(where, entry, cells):
+class Deviations:
+    """Differences that were computed in half, beside the exact ones."""
+
+    def __init__(self, results, exact):
+        self.kept = [(s, e) for s, e in zip(results, exact) if math.isfinite(s)]
+        self.lost = len(results) - len(self.kept)
+        self.nearest = sum(s == to_half(e) for s, e in self.kept)
+        self.ulps = sorted(ulp_distance(s, e) for s, e in self.kept)
+        self.typical = self.ulps[len(self.ulps) // 2] if self.ulps else None
+        self.largest = max((abs(s - e) for s, e in self.kept), default=None)
+
+
+def check_anomalies(where, entry, cells, _):
     values = [x for x in cells if x is not None]
     finite = [x for x in values if math.isfinite(x)]
     mean = math.fsum(finite) / len(finite) if finite else 0.0
-    offset = to_half(-entry["mean"])  # the report's own: its last bits depend on the order of the sum
-    sums = [to_half(to_single(to_half(x) + offset)) for x in values]
-    exact = [x - entry["mean"] for x in values]
-    kept = [(s, e) for s, e in zip(sums, exact) if math.isfinite(s)]
-    ulps = sorted(abs(s - e) / min(half_ulp(s), half_ulp(to_half(e))) for s, e in kept)
+    reported = number(entry["mean"])  # its last bits depend on the order of the sum
+    offset = to_half(-reported)
+    found = Deviations([to_half(to_single(to_half(x) + offset)) for x in values], [x - reported for x in values])
     expect(where, "mean", entry["mean"], mean, 1e-12)
     expect(where, "offset", entry["offset"], offset)
-    expect(where, "lost", entry["lost"], len(sums) - len(kept))
-    expect(where, "minimum", entry["minimum"], min((s for s, _ in kept), default=None))
-    expect(where, "maximum", entry["maximum"], max((s for s, _ in kept), default=None))
-    expect(where, "nearest", entry["nearest"], sum(s == to_half(e) for s, e in kept))
-    expect(where, "largest_error", entry["largest_error"], max((abs(s - e) for s, e in kept), default=None))
-    expect(where, "typical_error_ulp", entry["typical_error_ulp"], ulps[len(ulps) // 2] if ulps else None, 1e-9)
-    expect(where, "largest_error_ulp", entry["largest_error_ulp"], ulps[-1] if ulps else None, 1e-9)
+    expect(where, "lost", entry["lost"], found.lost)
+    expect(where, "minimum", entry["minimum"], min((s for s, _ in found.kept), default=None))
+    expect(where, "maximum", entry["maximum"], max((s for s, _ in found.kept), default=None))
+    expect(where, "nearest", entry["nearest"], found.nearest)
+    expect(where, "largest_error", entry["largest_error"], found.largest)
+    expect(where, "typical_error_ulp", entry["typical_error_ulp"], found.typical, 1e-9)
+    expect(where, "largest_error_ulp", entry["largest_error_ulp"], found.ulps[-1] if found.ulps else None, 1e-9)
+
+
+def check_mixed(where, entry, cells, others):
+    mean = number(others["anomalies"]["mean"])
+    values = [x for x in cells if x is not None]
+    exact = [x - mean for x in values]
+    ways = {
+        "half_half": Deviations([to_half(to_half(x) - to_half(mean)) for x in values], exact),
+        "half_double": Deviations([to_half(to_half(x) - mean) for x in values], exact),
+        "double_half": Deviations([to_half(x - to_half(mean)) for x in values], exact),
+    }
+    for way, found in ways.items():
+        expect(where, way, entry["nearest_" + way], found.nearest)
+        expect(where, way, entry["lost_" + way], found.lost)
+        expect(where, way, entry["typical_error_ulp_" + way], found.typical, 1e-9)
+        if way != "half_half":
+            expect(where, way, entry["largest_error_" + way], found.largest)
+
+
+def tree_mean(cells, rounded, result):
+    """The mean of a column as docs/reductions.md tells it: rounded() is what happens to a sum, result() to the mean."""
+
+    def tree(part):
+        if len(part) > 256:
+            return rounded(tree(part[: len(part) // 2]) + tree(part[len(part) // 2 :]))
+        total = 0.0
+        for x in part:
+            total = total if x is None else rounded(total + x)
+        return total
+
+    return result(tree(cells) / sum(x is not None for x in cells))
+
+
+def mean_with_single_sums(cells):
+    return tree_mean(cells, to_single, lambda x: to_half(to_single(x)))
+
+
+def check_statistics(where, entry, cells, _):
+    halves = [None if x is None else to_half(x) for x in cells]
+    values = [x for x in cells if x is not None]
+    infinities = sum(x for x in values if math.isinf(x))
+    expect(where, "mean", entry["mean"], infinities or math.fsum(values) / len(values), 1e-12)
+    mean = number(entry["mean"])
+    for sums, found in (
+        ("half_sums", tree_mean(halves, lambda x: to_half(to_single(x)), to_half)),
+        ("single_sums", mean_with_single_sums(halves)),
+        ("double_sums", tree_mean(halves, float, float)),
+    ):
+        expect(where, "mean", entry["mean_" + sums], found)
+        finite = math.isfinite(found) and math.isfinite(mean)
+        expect(where, sums, entry["error_ulp_" + sums], ulp_distance(found, mean) if finite else None, 1e-9)
+    for name, choose in (("minimum", min), ("maximum", max)):
+        best = choose(x for x in halves if x is not None)
+        expect(where, name, entry[name], best)
+        expect(where, name, entry[name + "_row"], halves.index(best) + 1)
+        expect(where, name, entry[name + "_row_in_file"], cells.index(choose(values)) + 1)
+
+
+def straight_line(cells):
+    """The line of least squares at every row and its slope, exact."""
+    points = [(i, Fraction(x)) for i, x in enumerate(cells) if x is not None]
+    centre = Fraction(sum(i for i, _ in points), len(points))
+    middle = sum(x for _, x in points) / len(points)
+    squares = sum((i - centre) ** 2 for i, _ in points)
+    slope = sum((i - centre) * x for i, x in points) / squares if squares else Fraction(0)
+    return [middle + slope * (i - centre) for i in range(len(cells))], slope
+
+
+def half_amplitudes(deviations, most):
+    """What complex halves make of each number of cycles, halved."""
+    n = len(deviations)
+    turns = [2 * math.pi * t / n for t in range(n)]
+    cosines, sines = [to_half(math.cos(a)) for a in turns], [to_half(math.sin(a)) for a in turns]
+    found = []
+    for cycles in range(1, most + 1):
+        parts = []
+        for table in (cosines, sines):
+            products = [None if d is None else to_half(d * table[i * cycles % n]) for i, d in enumerate(deviations)]
+            parts.append(mean_with_single_sums(products))
+        found.append(to_half(math.hypot(*parts)))
+    return found
+
+
+def check_cycles(where, entry, cells, _):
+    n, present = len(cells), [x for x in cells if x is not None]
+    most = min((n - 1) // 2, 64)
+    keys = ("cycles", "cycles_half", "rows_per_cycle", "share", "amplitude", "amplitude_half", "error_ulp")
+    expected = dict.fromkeys(keys)
+    slope, exponent = None, 0
+    if all(math.isfinite(x) for x in present):
+        line, slope = straight_line(cells)
+        exponent = math.frexp(max(abs(x) for x in present))[1]
+        scale = Fraction(2) ** exponent  # no square overflows below it
+        rest = [(i, float((Fraction(x) - y) / scale)) for i, (x, y) in enumerate(zip(cells, line)) if x is not None]
+        if most > 0 and len(rest) > 2 and max(abs(d) for _, d in rest) > 1e-9:
+            turn = 2j * math.pi / n
+            sums = [sum(d * cmath.exp(turn * k * i) for i, d in rest) for k in range(1, most + 1)]
+            whole = [abs(x) / len(rest) for x in sums]
+            best = whole.index(max(whole))
+            expected["cycles"] = best + 1
+            expected["rows_per_cycle"] = n / (best + 1)
+            expected["amplitude"] = math.ldexp(2 * whole[best], exponent)
+            expected["share"] = 200 * whole[best] ** 2 / (math.fsum(d * d for _, d in rest) / len(rest))
+            halves = [None if x is None else to_half(to_half(x) - float(y)) for x, y in zip(cells, line)]
+            if all(d is None or math.isfinite(d) for d in halves):
+                found = half_amplitudes(halves, most)
+                if max(found) > 0:
+                    expected["cycles_half"] = found.index(max(found)) + 1
+                    expected["amplitude_half"] = 2 * found[best]
+                    expected["error_ulp"] = ulp_distance(found[best], math.ldexp(whole[best], exponent))
+    trend = None if slope is None else float(slope)
+    expect(where, "trend", entry["trend"], trend, 1e-9, math.ldexp(1e-15, exponent))
+    for key in keys:
+        tolerance = 0.0 if "half" in key else 1e-9
+        expect(where, key, entry[key], expected[key], tolerance, 1e-9 if key == "error_ulp" else 1e-300)
+
+
+CHECKS = {
+    "rounding": check_rounding,
+    "anomalies": check_anomalies,
+    "mixed": check_mixed,
+    "cycles": check_cycles,
+    "statistics": check_statistics,
+}
 
 
 def main():
@@ -112,14 +255,15 @@ def main():
     checked = 0
     for file, table in zip(report["files"], tables):
         columns = list(numeric_columns(table))
-        for section, check in (("rounding", check_rounding), ("anomalies", check_anomalies)):
+        for section, check in CHECKS.items():
             entries = file[section]["columns"]
             names = [entry["column"] for entry in entries]
             if names != [name for name, _ in columns]:
                 differences.append(f"{file['file']}: the columns {names} in {section}")
                 continue
-            for entry, (name, cells) in zip(entries, columns):
-                check(f"{file['file']}, {name}, {section}:", entry, cells)
+            for j, (entry, (name, cells)) in enumerate(zip(entries, columns)):
+                others = {other: file[other]["columns"][j] for other in CHECKS}
+                check(f"{file['file']}, {name}, {section}:", entry, cells, others)
                 checked += 1
     print("\n".join(differences) or f"{checked} columns agree")
     sys.exit(1 if differences or not checked else 0)

@@ -30,6 +30,26 @@ TEST(Json, EveryFigureAgreesWithAnotherComputation) {
   expectPythonAgrees({checker}, run("halfscope", {"--json", "--no-speed", readings}).out, {readings});
 }
 
+TEST(Json, FiguresOfOddTablesAgreeToo) {
+  const std::string checker = here / "check_report.py";
+  for (std::string const csv : {
+           "a,b\n1,-0\n",                                               // one row
+           "a,b\n60000,1\nNA,2\n",                                      // two, and a single value
+           "a,b,c\n1,0.1,3\n2,0.2,3\n3,0.3,3\n4,0.4,3\n",               // lines, exact and rounded
+           "a,b\n-0,0\n0,-0\n-0,NA\n",                                  // zeros of both signs
+           "a,b\ninf,65504\n-inf,65519\n1,65520\n2,-65504\n3,1e308\n",  // infinities, and the end of half
+           "a,b\n1e-7,1\n-1e-7,\n1e-9,\n2e-7,5\n0,1\n",                 // what is left is almost nothing
+           "a,b\n3e4,9\n-6e4,1\n6e4,9\n-6e4,1\n6e4,8\n-6e4,1\n",        // deviations larger than their values
+       }) {
+    const temporaryFolder folder;
+    const std::string table = folder / "table.csv";
+    std::ofstream(table, std::ios::binary) << csv;
+    const auto result = run("halfscope", {"--json", "--no-speed", table});
+    EXPECT_EQ(result.status, 0) << result.err;
+    expectPythonAgrees({checker}, result.out, {table});
+  }
+}
+
 TEST(Json, HoldsAnyName) {
   const auto result = look("\"quote \"\" backslash \\ tab \t line\nend \xC3\xA9 \xF0\x9F\x8C\x8A\"\n1\n", {"--json"});
   expectPythonAgrees({"-c", R"(
@@ -46,7 +66,7 @@ import json, sys
 speed = json.load(open(sys.argv[1]))["speed"]
 assert speed["file"].endswith("elnino.csv")
 assert speed["elements"] == speed["rows"] * speed["columns"] == 1048567
-assert len(speed["operations"]) == 3
+assert len(speed["operations"]) == 7
 for operation in speed["operations"]:
     assert operation["million_elements_per_second"] > 0 and operation["copy_gigabytes_per_second"] > 0
 )"},

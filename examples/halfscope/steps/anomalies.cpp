@@ -1,10 +1,7 @@
 // Step 2: the deviations from each column's mean, all columns in one addition by implicit expansion, and how good they
 // are beside the same thing in double.
-#include <algorithm>
-#include <cmath>
-#include <limits>
-
 #include "half_matrix.h"
+#include "steps/deviations.h"
 #include "steps/steps.h"
 #include "words.h"
 
@@ -12,59 +9,10 @@ namespace halfscope {
 
 namespace {
 
-// The mean of the values that are there and finite; 0 where none is.
-double meanOf(double const* value, std::size_t rows) {
-  double count = 0;
-  double sum = 0;
-  double sumOfShares = 0;  // cannot overflow, but is rounded more often
-  for (std::size_t i = 0; i < rows; ++i) count += std::isfinite(value[i]);
-  for (std::size_t i = 0; i < rows; ++i) {
-    if (!std::isfinite(value[i])) continue;
-    sum += value[i];
-    sumOfShares += value[i] / count;
-  }
-  return count == 0 ? 0.0 : std::isfinite(sum) ? sum / count : sumOfShares;
-}
-
-struct columnAnomalies {
-  std::string name;
+struct columnAnomalies : columnDeviations {
   double mean = 0;
   double offset = 0;  // what was added, as a half
-  long long values = 0;
-  long long nearest = 0;  // the half nearest to the deviation in double
-  long long lost = 0;     // not a number or infinite
-  double smallest = std::numeric_limits<double>::infinity();
-  double largest = -std::numeric_limits<double>::infinity();
-  double largestError = 0;
-  double typicalUlps = 0;  // the median
-  double largestUlps = 0;
 };
-
-columnAnomalies examine(std::size_t rows, double const* value, half_t const* anomaly, double const* back,
-                        double const* exact, half_t const* nearest, double const* ulps) {
-  columnAnomalies c;
-  std::vector<double> distances;
-  for (std::size_t i = 0; i < rows; ++i) {
-    if (std::isnan(value[i])) continue;
-    ++c.values;
-    if (!half_scalar::isfinite(anomaly[i])) {
-      ++c.lost;
-      continue;
-    }
-    c.nearest += anomaly[i] == nearest[i];
-    c.smallest = std::min(c.smallest, back[i]);
-    c.largest = std::max(c.largest, back[i]);
-    c.largestError = std::max(c.largestError, std::abs(back[i] - exact[i]));
-    c.largestUlps = std::max(c.largestUlps, ulps[i]);
-    distances.push_back(ulps[i]);
-  }
-  if (!distances.empty()) {
-    const auto middle = distances.begin() + static_cast<std::ptrdiff_t>(distances.size() / 2);
-    std::nth_element(distances.begin(), middle, distances.end());
-    c.typicalUlps = *middle;
-  }
-  return c;
-}
 
 std::string notice(std::vector<columnAnomalies> const& columns) {
   std::vector<std::string> losing;
@@ -77,7 +25,7 @@ std::string notice(std::vector<columnAnomalies> const& columns) {
     lost += c.lost;
     kept += c.values - c.lost;
     nearest += c.nearest;
-    if (c.lost < c.values && (worst == nullptr || c.typicalUlps > worst->typicalUlps)) worst = &c;
+    if (c.any() && (worst == nullptr || c.typicalUlps > worst->typicalUlps)) worst = &c;
   }
   std::string text;
   if (lost > 0)
@@ -112,7 +60,7 @@ std::vector<heading> headings() {
 }
 
 std::vector<cell> row(columnAnomalies const& c) {
-  const bool any = c.lost < c.values;
+  const bool any = c.any();
   return {textCell(c.name),
           valueCell(c.mean),
           valueCell(c.offset),
@@ -130,27 +78,18 @@ std::vector<cell> row(columnAnomalies const& c) {
 section anomalyStep(table const& t) {
   const std::size_t rows = t.values.rows;
   const std::size_t count = t.values.columns;
-  matrix means(1, count), offsets(1, count), exact(rows, count);
-  for (std::size_t j = 0; j < count; ++j) {
-    means.cells[j] = meanOf(t.values.column(j), rows);
-    offsets.cells[j] = -means.cells[j];
-    for (std::size_t i = 0; i < rows; ++i) exact.column(j)[i] = t.values.column(j)[i] - means.cells[j];
-  }
+  const matrix means = meansOf(t.values);
+  matrix offsets(1, count);
+  for (std::size_t j = 0; j < count; ++j) offsets.cells[j] = -means.cells[j];
 
   const halfMatrix offsetsAsHalf = toHalf(offsets);
   const halfMatrix anomalies = plusRow(toHalf(t.values), offsetsAsHalf);
-  const matrix back = fromHalf(anomalies);
   const matrix offsetsBack = fromHalf(offsetsAsHalf);
-  const halfMatrix nearest = toHalf(exact);
-  const matrix ulps = ulpDistance(anomalies, exact);
 
   std::vector<columnAnomalies> columns;
-  for (std::size_t j = 0; j < count; ++j) {
-    columns.push_back(examine(rows, t.values.column(j), anomalies.column(j), back.column(j), exact.column(j),
-                              nearest.column(j), ulps.column(j)));
-    columns.back().name = t.columnNames[j];
-    columns.back().mean = means.cells[j];
-    columns.back().offset = offsetsBack.cells[j];
+  for (columnDeviations const& c : compare(t, anomalies, deviationsFrom(means, t.values))) {
+    const std::size_t j = columns.size();
+    columns.push_back({c, means.cells[j], offsetsBack.cells[j]});
   }
 
   const std::string shape = countText(static_cast<long long>(rows)) + " x " + std::to_string(count);

@@ -1,5 +1,5 @@
-// Step 3: how fast the calls of the other steps are, on the table repeated to a million elements, beside a plain copy
-// of as many bytes.
+// The last step: how fast the calls of the other steps are, on the table repeated to a million elements, beside a plain
+// copy of as many bytes.
 #include <algorithm>
 #include <chrono>
 #include <cmath>
@@ -75,10 +75,10 @@ std::string notice(std::vector<timing> const& timings, std::size_t elements) {
       timings.begin(), timings.end(), [](timing const& a, timing const& b) { return closeness(a) < closeness(b); });
   const auto percent = [](timing const& t) { return decimalText(100.0 * closeness(t), 0) + '%'; };
   const double pace = static_cast<double>(elements) * 1e-6 / furthest->seconds;
-  return "One thread, best of several runs over " + countText(static_cast<long long>(elements)) + " elements. " +
-         closest->operation + " comes closest to a plain copy of the same bytes with " + percent(*closest) +
-         " of its pace; furthest is " + furthest->operation + " with " + percent(*furthest) + ", which is " +
-         countText(std::llround(pace)) + " million elements a second.";
+  return "Best of several runs, on one thread but for the means, over " + countText(static_cast<long long>(elements)) +
+         " elements. " + closest->operation + " comes closest to a plain copy of the same bytes with " +
+         percent(*closest) + " of its pace; furthest is " + furthest->operation + " with " + percent(*furthest) +
+         ", which is " + countText(std::llround(pace)) + " million elements a second.";
 }
 
 }  // namespace
@@ -87,14 +87,19 @@ section speedStep(table const& t) {
   const matrix values = repeated(t.values);
   halfMatrix halves(values.rows, values.columns), sums(values.rows, values.columns);
   matrix back(values.rows, values.columns);
-  halfMatrix offsets(1, values.columns);
+  halfMatrix offsets(1, values.columns), means(1, values.columns);
+  matrix offsetsInDouble(1, values.columns);
+  complexHalfMatrix phases(values.rows, 1), products(values.rows, values.columns);
   const std::size_t elements = values.cells.size();
-  constexpr std::size_t wide = sizeof(double), narrow = sizeof(half_t);
+  constexpr std::size_t wide = sizeof(double), narrow = sizeof(half_t), complexNarrow = 2 * narrow;
   const std::vector<unsigned char> from(elements * (wide + narrow) / 2);
   std::vector<unsigned char> to(from.size());
 
-  for (std::size_t j = 0; j < values.columns; ++j)
+  for (std::size_t j = 0; j < values.columns; ++j) {
     offsets.cells[j] = -half_t{half_scalar::impl::convertDoubleToHalf(values.column(j)[0])};
+    offsetsInDouble.cells[j] = values.column(j)[0];
+  }
+  for (auto& phase : phases.cells) phase = {half_t{0x3A00}, half_t{0x3A00}};  // any numbers without a zero part
 
   std::vector<timing> timings;
   const auto measure = [&](std::string const& operation, std::size_t bytes, auto work) {
@@ -102,6 +107,10 @@ section speedStep(table const& t) {
   };
   measure("convertToHalf from double", wide + narrow, [&] { toHalf(values, halves); });
   measure("plus a row to every row", narrow + narrow, [&] { plusRow(halves, offsets, sums); });
+  measure("minus a row of doubles", narrow + narrow, [&] { minus(halves, offsetsInDouble, sums); });
+  measure("times a complex column", narrow + complexNarrow, [&] { timesColumn(halves, phases, products); });
+  measure("mean of columns, half sums", narrow, [&] { columnMeans(halves, sumsIn::half, means); });
+  measure("mean of columns, single sums", narrow, [&] { columnMeans(halves, sumsIn::single, means); });
   measure("convertFromHalf to double", narrow + wide, [&] { fromHalf(sums, back); });
 
   section s;
