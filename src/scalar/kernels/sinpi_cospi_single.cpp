@@ -1,6 +1,6 @@
 #include "scalar/kernels/sinpi_cospi_single.h"
 
-#include <cmath>
+#include <cstdint>
 #include <cstdlib>
 
 #include "scalar/kernels/pi_constants.h"
@@ -11,11 +11,14 @@ namespace qsl_scalar {
 
 namespace {
 
-// x modulo 2 in [-1, 1]. Nothing is rounded: fmod is exact, and so is a difference of neighbours.
+// x modulo 2 in [-1, 1], with the sign of x where it is a zero. Nothing is rounded: halves and doubles of floats, and
+// differences of neighbours, are exact. From 2^24 on every float is an even integer.
 float halfTurnsWithin1(float x) {
-  const float r = magnitudeOf(x) < 2.0f ? x : std::fmod(x, 2.0f);
-  if (magnitudeOf(r) <= 1.0f) return r;
-  return r + (r > 0.0f ? -2.0f : 2.0f);
+  const float magnitude = magnitudeOf(x);
+  const float held = floatOf(bitsOf(magnitude) & zthalf::maskOf<std::uint32_t>(magnitude < 0x1p24f));
+  const float r = held - 2.0f * static_cast<float>(static_cast<std::int32_t>(held * 0.5f));
+  const float within = r - floatOf(bitsOf(2.0f) & zthalf::maskOf<std::uint32_t>(r > 1.0f));
+  return floatOf(bitsOf(within) ^ (bitsOf(x) & signBit));
 }
 
 // Multiples of pi/12 have results of their own, since pi r is rounded and would spoil the exact ones among them. The
@@ -52,10 +55,9 @@ float cosineOfTwelfths(float r) {
 // is left is multiplied by pi in two parts.
 reducedAngle angleOf(float r) {
   const float magnitude = magnitudeOf(r);
-  const std::int32_t quadrants = magnitude < 0.25f ? 0 : magnitude < 0.75f ? 1 : 2;
-  const std::int32_t n = r > 0.0f ? quadrants : -quadrants;
-  const float rest = r - 0.5f * static_cast<float>(n);
-  return {n, piUpper * rest, piLower * rest};
+  const std::int32_t n = static_cast<std::int32_t>(magnitude >= 0.25f) + static_cast<std::int32_t>(magnitude >= 0.75f);
+  const float rest = magnitude - 0.5f * static_cast<float>(n);
+  return reducedAngle{n, piUpper * rest, piLower * rest}.negatedIf(bitsOf(r) & signBit);
 }
 
 }  // namespace
