@@ -22,15 +22,16 @@ ZTHALF_INLINE float finitePower(float y) {
   return notAbove > -infinite ? notAbove : -infinite;
 }
 
-// 2^(y log2 x) for a half y, as a float that rounds to the right half. The sum 17 is beyond the largest half, -27 below
-// half of the smallest. Nothing of y is below its upper half, so the product is in two parts at once.
+// 2^(y log2 x) for a half y, as a float that rounds to the right half. The sum 16 is beyond the largest half, and -27
+// below half of the smallest; the result is at most 65536. Nothing of y is below its upper half, so the product is in
+// two parts at once.
 template <class Parts = qsl_scalar::bitwiseParts>
 ZTHALF_INLINE float powerFromLogarithm(qsl_scalar::powers::split log2X, float y) {
   const qsl_scalar::powers::split p = {log2X.upper * y, log2X.lower * y};
   const float sum = p.upper + p.lower;
   const auto [number, exponent] = qsl_scalar::powers::scaledExponential<Parts>(p, sum);
   const std::uint32_t bits = bitsOf(qsl_scalar::exponentRaised(number, exponent));
-  const std::uint32_t notTooLarge = select(maskOf<std::uint32_t>(sum > 17.0f), bitsOf(65536.0f), bits);
+  const std::uint32_t notTooLarge = select(maskOf<std::uint32_t>(sum >= 16.0f), bitsOf(65536.0f), bits);
   return floatOf(notTooLarge & maskOf<std::uint32_t>(sum > -27.0f));
 }
 

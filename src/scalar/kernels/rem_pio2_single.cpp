@@ -42,11 +42,12 @@ constexpr auto multiplesOfHalfPi = [] {
 reducedAngle byOneStep(float x) {
   const std::uint32_t magnitude = magnitudeBitsOf(x);
   const bool isNear = magnitude >= nearHalfPi && magnitude < nearHalfPi + 48;
-  float z = magnitudeOf(x) - lead[0];
-  if (isNear) z = z - lead[1];
-  const float t = rest[isNear ? 1 : 0];
+  const float sign = floatOf((bitsOf(x) & signBit) | bitsOf(1.0f));
+  float z = x - sign * lead[0];
+  if (isNear) z = z - sign * lead[1];
+  const float t = sign * rest[isNear ? 1 : 0];
   const float upper = z - t;
-  return reducedAngle{1, upper, (z - upper) - t}.negatedIf(bitsOf(x) & signBit);
+  return {hasSign(x) ? -1 : 1, upper, (z - upper) - t};
 }
 
 // n pi/2 taken from r in one more step: r loses n * lead[i], and what the result must still lose is n * rest[i] plus

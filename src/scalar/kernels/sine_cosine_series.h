@@ -60,10 +60,8 @@ ZTHALF_INLINE float cosPoly(float a, float b) {
   return (1.0f - h) - ((z * 0.5f - h) - q);
 }
 
-// sin and cos of n pi/2 + upper + lower. The reduction's NaN comes back as it is: arithmetic would leave its sign to
-// the order of operations.
+// sin and cos of n pi/2 + upper + lower, which are no NaNs.
 ZTHALF_INLINE float sinQuadrant(reducedAngle const& y) {
-  if (y.upper != y.upper) return y.upper;
   const auto n = static_cast<std::uint32_t>(y.n);
   const float sine = sinPoly(y.upper, y.lower);
   const float cosine = cosPoly(y.upper, y.lower);

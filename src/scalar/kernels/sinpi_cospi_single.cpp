@@ -11,14 +11,12 @@ namespace qsl_scalar {
 
 namespace {
 
-// x modulo 2 in [-1, 1], with the sign of x where it is a zero. Nothing is rounded: halves and doubles of floats, and
-// differences of neighbours, are exact. From 2^24 on every float is an even integer.
-float halfTurnsWithin1(float x) {
-  const float magnitude = magnitudeOf(x);
-  const float held = floatOf(bitsOf(magnitude) & zthalf::maskOf<std::uint32_t>(magnitude < 0x1p24f));
-  const float r = held - 2.0f * static_cast<float>(static_cast<std::int32_t>(held * 0.5f));
-  const float within = r - floatOf(bitsOf(2.0f) & zthalf::maskOf<std::uint32_t>(r > 1.0f));
-  return floatOf(bitsOf(within) ^ (bitsOf(x) & signBit));
+// |x| modulo 2 in (-1, 1]. Nothing is rounded: halves and doubles of floats, and differences of neighbours, are exact.
+// From 2^24 on every float is an even integer.
+float halfTurnsWithin1(float magnitude) {
+  if (magnitude >= 0x1p24f) return 0.0f;
+  const float r = magnitude - 2.0f * static_cast<float>(static_cast<std::int32_t>(magnitude * 0.5f));
+  return r - floatOf(bitsOf(2.0f) & zthalf::maskOf<std::uint32_t>(r > 1.0f));
 }
 
 // Multiples of pi/12 have results of their own, since pi r is rounded and would spoil the exact ones among them. The
@@ -62,15 +60,20 @@ reducedAngle angleOf(float r) {
 
 }  // namespace
 
+// The sine is odd and the cosine even, in every bit: the sign of x comes in at the end, that of a zero too.
+
 float sinpiSingle(float x) {
-  if (magnitudeBitsOf(x) >= exponentBits) return domainNaN;
-  const float r = halfTurnsWithin1(x);
-  return isTwelfths(r) ? sineOfTwelfths(r) : sinQuadrant(angleOf(r));
+  const float magnitude = magnitudeOf(x);
+  if (bitsOf(magnitude) >= exponentBits) return domainNaN;
+  const float r = halfTurnsWithin1(magnitude);
+  const float sine = isTwelfths(r) ? sineOfTwelfths(r) : sinQuadrant(angleOf(r));
+  return floatOf(bitsOf(sine) ^ (bitsOf(x) & signBit));
 }
 
 float cospiSingle(float x) {
-  if (magnitudeBitsOf(x) >= exponentBits) return domainNaN;
-  const float r = halfTurnsWithin1(x);
+  const float magnitude = magnitudeOf(x);
+  if (bitsOf(magnitude) >= exponentBits) return domainNaN;
+  const float r = halfTurnsWithin1(magnitude);
   return isTwelfths(r) ? cosineOfTwelfths(r) : cosQuadrant(angleOf(r));
 }
 
