@@ -15,11 +15,15 @@
 
 namespace zthalf {
 
-// An infinite power acts as 65536 does: its product with the logarithm of every half but 1 is outside of half's range.
-ZTHALF_INLINE float finitePower(float y) {
-  constexpr float infinite = 65536.0f;
-  const float notAbove = y < infinite ? y : infinite;
-  return notAbove > -infinite ? notAbove : -infinite;
+// The single of a half power, an infinite one as 65536: its product with the logarithm of every half but 1 is outside
+// of half's range too. Some number for a NaN. These are the steps of widen without the one for infinities and NaNs.
+ZTHALF_INLINE float widenPower(std::uint16_t y) {
+  constexpr int shift = 13;
+  const std::int32_t placed = static_cast<std::int16_t>(y) << shift;  // the sign fills the bits above
+  const std::int32_t magnitude = placed & (pattern::magnitudeBits << shift);
+  const std::int32_t small = smallerOf(magnitude, 0x0400 << shift);
+  const auto value = static_cast<std::uint32_t>(singleOfSmall(small) + (magnitude - small));
+  return floatOf(value | (static_cast<std::uint32_t>(placed) & 0x80000000u));
 }
 
 // 2^(y log2 x) for a half y, as a float that rounds to the right half. The sum 16 is beyond the largest half, and -27
@@ -38,7 +42,7 @@ ZTHALF_INLINE float powerFromLogarithm(qsl_scalar::powers::split log2X, float y)
 // The base's logarithm is a constant. Any NaN gives the negative one.
 template <class Parts = qsl_scalar::bitwiseParts>
 ZTHALF_INLINE std::uint16_t powerOfBase(qsl_scalar::powers::split log2OfBase, std::uint16_t y) {
-  const std::uint16_t power = narrow(powerFromLogarithm<Parts>(log2OfBase, finitePower(widen<float>(y))));
+  const std::uint16_t power = narrow(powerFromLogarithm<Parts>(log2OfBase, widenPower(y)));
   const auto isNaN = maskOf<std::uint16_t>(static_cast<std::int16_t>(pattern::magnitudeOf(y)) >
                                            static_cast<std::int16_t>(pattern::infinity));
   return select(isNaN, static_cast<std::uint16_t>(pattern::quietNaN | pattern::signBit), power);
@@ -72,11 +76,10 @@ ZTHALF_INLINE std::uint16_t powerOfHalves(std::uint16_t x, std::uint16_t y) {
   const auto is = [](bool condition) { return maskOf<std::uint16_t>(condition); };
   const auto signedMagnitude = [](std::uint16_t v) { return static_cast<std::int16_t>(pattern::magnitudeOf(v)); };
   const float wideX = widen<float>(x);
-  const float wideY = widen<float>(y);
+  const float wideY = widenPower(y);
   const float power = qsl_scalar::magnitudeOf(wideY);
 
-  const float general =
-      powerFromLogarithm(logarithmOfMagnitude(qsl_scalar::magnitudeBitsOf(wideX)), finitePower(wideY));
+  const float general = powerFromLogarithm(logarithmOfMagnitude(qsl_scalar::magnitudeBitsOf(wideX)), wideY);
   const float root = std::sqrt(qsl_scalar::magnitudeOf(wideX));
   const std::uint32_t orSquare = select(maskOf<std::uint32_t>(wideY == 2.0f), bitsOf(wideX * wideX), bitsOf(general));
   const std::uint32_t magnitude = select(maskOf<std::uint32_t>(wideY == 0.5f), bitsOf(root), orSquare);

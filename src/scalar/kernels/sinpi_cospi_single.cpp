@@ -1,7 +1,6 @@
 #include "scalar/kernels/sinpi_cospi_single.h"
 
 #include <cstdint>
-#include <cstdlib>
 
 #include "scalar/kernels/pi_constants.h"
 #include "scalar/kernels/rem_pio2_single.h"
@@ -37,43 +36,42 @@ constexpr float sines[] = {
     1.0f,
 };
 
-// The sine has the sign of r, a zero included.
+// For r from 0 to 1.
 float sineOfTwelfths(float r) {
-  const int k = std::abs(static_cast<int>(r * 12.0f));
-  const float sine = sines[k <= 6 ? k : 12 - k];
-  return hasSign(r) ? -sine : sine;
+  const auto k = static_cast<std::int32_t>(r * 12.0f);
+  return sines[k <= 6 ? k : 12 - k];
 }
 
 float cosineOfTwelfths(float r) {
-  const int k = std::abs(static_cast<int>(r * 12.0f));
+  const auto k = static_cast<std::int32_t>(r * 12.0f);
   return k <= 6 ? sines[6 - k] : -sines[k - 6];
 }
 
 // pi r as n pi/2 plus an angle of at most pi/4. Multiples of 1/2 are subtracted from r, where that is exact, and what
 // is left is multiplied by pi in two parts.
 reducedAngle angleOf(float r) {
-  const float magnitude = magnitudeOf(r);
-  const std::int32_t n = static_cast<std::int32_t>(magnitude >= 0.25f) + static_cast<std::int32_t>(magnitude >= 0.75f);
-  const float rest = magnitude - 0.5f * static_cast<float>(n);
-  return reducedAngle{n, piUpper * rest, piLower * rest}.negatedIf(bitsOf(r) & signBit);
+  const std::int32_t n = static_cast<std::int32_t>(r >= 0.25f) + static_cast<std::int32_t>(r >= 0.75f);
+  const float rest = r - 0.5f * static_cast<float>(n);
+  return {n, piUpper * rest, piLower * rest};
 }
 
 }  // namespace
 
-// The sine is odd and the cosine even, in every bit: the sign of x comes in at the end, that of a zero too.
+// The sine is odd and the cosine even, in every bit: signs come in at the end, that of a zero too.
 
 float sinpiSingle(float x) {
   const float magnitude = magnitudeOf(x);
   if (bitsOf(magnitude) >= exponentBits) return domainNaN;
-  const float r = halfTurnsWithin1(magnitude);
+  const float turned = halfTurnsWithin1(magnitude);
+  const float r = magnitudeOf(turned);
   const float sine = isTwelfths(r) ? sineOfTwelfths(r) : sinQuadrant(angleOf(r));
-  return floatOf(bitsOf(sine) ^ (bitsOf(x) & signBit));
+  return floatOf(bitsOf(sine) ^ ((bitsOf(x) ^ bitsOf(turned)) & signBit));
 }
 
 float cospiSingle(float x) {
   const float magnitude = magnitudeOf(x);
   if (bitsOf(magnitude) >= exponentBits) return domainNaN;
-  const float r = halfTurnsWithin1(magnitude);
+  const float r = magnitudeOf(halfTurnsWithin1(magnitude));
   return isTwelfths(r) ? cosineOfTwelfths(r) : cosQuadrant(angleOf(r));
 }
 
