@@ -1,4 +1,4 @@
-// exp, expm1, pow2 and pow10 of a half pattern.
+// exp and expm1 of a half pattern.
 // Internal: promises nothing to users of the library.
 #pragma once
 
@@ -44,7 +44,5 @@ ZTHALF_INLINE std::uint16_t expOf(std::uint16_t x) {
 }
 
 std::uint16_t expm1Of(std::uint16_t x);
-std::uint16_t pow2Of(std::uint16_t x);
-std::uint16_t pow10Of(std::uint16_t x);
 
 }  // namespace zthalf

@@ -17,6 +17,7 @@
 #include "scalar/kernels/pow_single.h"
 #include "scalar/kernels/pow_single_lanes.h"
 #include "scalar/mixed_operands.h"
+#include "scalar/power_of_halves.h"
 
 namespace zthalf {
 
@@ -44,6 +45,8 @@ template <class X, class Y>
 std::uint16_t powerOf(X x, Y y) {
   if constexpr (anyDouble<X, Y>) {
     return narrow(qsl_scalar::powDouble(exactly<double>(x), exactly<double>(y)));
+  } else if constexpr (isHalfOperand<X> && isHalfOperand<Y>) {
+    return powerOfTwoHalves(x, y);
   } else {
     return narrow(qsl_scalar::powSingle(exactly<float>(x), exactly<float>(y)));
   }
@@ -54,6 +57,8 @@ template <class X, class Y>
 ZTHALF_INLINE std::uint16_t powerInLanes(X x, Y y) {
   if constexpr (anyDouble<X, Y>) {
     return powerOf(x, y);
+  } else if constexpr (isHalfOperand<X> && isHalfOperand<Y>) {
+    return powerOfHalves(x, y);
   } else {
     return narrow(qsl_scalar::powSingleInLanes(exactly<float>(x), exactly<float>(y)));
   }

@@ -15,6 +15,7 @@ using zthalf::maskOf;
 using zthalf::select;
 
 // A number as the sum of two floats. Where an upper part has 12 significant bits, its products with others are exact.
+// It is cut by upperHalf; code for single values may choose another way of cutting.
 struct split {
   float upper;
   float lower;
@@ -38,8 +39,10 @@ ZTHALF_INLINE split logarithmNearOne(float x) {
 // x = 2^n a with a in [0.866, 1.732), and a = base (1 + s) / (1 - s) with base 1 below 1.2247 and 1.5 from there, so
 // that |s| = |(a - base) / (a + base)| stays below 0.1011. Then
 //   log2 x = n + log2(base) + 2/(3 ln 2) s (3 + s^2 + r),   r = s^4 (3/5 + 3/7 s^2 + ...).
-// s, the bracket and their product are each carried in two parts.
-ZTHALF_INLINE split logarithm(float x) {
+// s, the bracket and their product are each carried in two parts. The argument is the pattern of a positive normal x;
+// where x itself is too small for that, it comes multiplied by a power of two that the bias makes up for.
+template <class Parts = bitwiseParts>
+ZTHALF_INLINE constexpr split logarithmOfNormal(std::uint32_t normal, std::int32_t bias = 127) {
   constexpr std::uint32_t rootOfThreeHalves = 0x001CC472u;       // fraction of 1.2247
   constexpr std::uint32_t rootOfThree = 0x005DB3D7u;             // fraction of 1.7320
   constexpr std::uint32_t upperLog2OfThreeHalves = 0x3F15C000u;  // 0.5849609375
@@ -51,12 +54,10 @@ ZTHALF_INLINE split logarithm(float x) {
   constexpr float factorUpper = floatOf(0x3F763800u);            // 0.9617919921875
   constexpr float factorLower = floatOf(0x369DC3A0u);            // 4.701738362200558e-06
 
-  const bool isSubnormal = magnitudeBitsOf(x) < hiddenBit;
-  const std::uint32_t normal = select(maskOf<std::uint32_t>(isSubnormal), bitsOf(x * 0x1p24f), bitsOf(x));
   const std::uint32_t fraction = normal & fractionBits;
   const auto nextBinade = maskOf<std::uint32_t>(fraction >= rootOfThree);
   const std::uint32_t fromThreeHalves = maskOf<std::uint32_t>(fraction >= rootOfThreeHalves) & ~nextBinade;
-  const auto n = static_cast<std::int32_t>((normal >> 23) + (nextBinade & 1)) - (isSubnormal ? 151 : 127);
+  const auto n = static_cast<std::int32_t>((normal >> 23) + (nextBinade & 1)) - bias;
   const std::uint32_t word = fraction | (0x3F800000u - (nextBinade & hiddenBit));
   const float a = floatOf(word);
   const float base = floatOf(0x3F800000u + (fromThreeHalves & 0x00400000u));
@@ -66,7 +67,7 @@ ZTHALF_INLINE split logarithm(float x) {
   const float difference = a - base;
   const float reciprocal = 1.0f / (base + a);
   const float s = difference * reciprocal;
-  const float sUpper = upperHalf(s);
+  const float sUpper = Parts::upperHalf(s);
   // A part of a + base with 12 significant bits, so that its product with sUpper is exact. It is about three quarters
   // of the sum and not its leading bits, so the product with the rest is rounded early: that costs a general base up to
   // 94 ulp. Results depend on it; do not mend it.
@@ -77,19 +78,25 @@ ZTHALF_INLINE split logarithm(float x) {
   const float square = s * s;
   const float r = (square * square) * (square * (square * l3 + l2) + l1) + (s + sUpper) * sLower;
   const float squareUpper = sUpper * sUpper;
-  const float bracketUpper = upperHalf((squareUpper + 3.0f) + r);
+  const float bracketUpper = Parts::upperHalf((squareUpper + 3.0f) + r);
   const float bracketLower = r - ((bracketUpper + -3.0f) - squareUpper);
 
   const float u = sUpper * bracketUpper;
   const float v = sLower * bracketUpper + s * bracketLower;
-  const float productUpper = upperHalf(u + v);
+  const float productUpper = Parts::upperHalf(u + v);
   const float productLower = v - (productUpper - u);
 
   const float z = productUpper * factorUpper;
   const float zLower = logarithmOfBase.lower + (productUpper * factorLower + productLower * factor);
   const auto exponent = static_cast<float>(n);
-  const float upper = upperHalf((logarithmOfBase.upper + (z + zLower)) + exponent);
+  const float upper = Parts::upperHalf((logarithmOfBase.upper + (z + zLower)) + exponent);
   return {upper, zLower - (((upper - exponent) - logarithmOfBase.upper) - z)};
+}
+
+ZTHALF_INLINE split logarithm(float x) {
+  const bool isSubnormal = magnitudeBitsOf(x) < hiddenBit;
+  const std::uint32_t normal = select(maskOf<std::uint32_t>(isSubnormal), bitsOf(x * 0x1p24f), bitsOf(x));
+  return logarithmOfNormal(normal, isSubnormal ? 151 : 127);
 }
 
 // y log2 x in two parts. y is split as well, so that the leading product is exact.
@@ -109,27 +116,31 @@ ZTHALF_INLINE bool vanishes(split p, float sum) {
   return (sum < -150.0f) | ((sum == -150.0f) & (p.lower <= sum - p.upper));
 }
 
+// A number near 1 and the exponent that it is still to be raised by.
+struct scaledNumber {
+  float value;
+  std::int32_t exponent;
+};
+
 // 2^(upper + lower), for a sum in [-150, 128]; other sums give some number. The nearest integer m of the sum, halves up
-// in magnitude, goes into the exponent, but a sum of one half stays whole. For the rest, with z = rest * ln 2 in two
-// parts, exp(z) = 1 + z + ... comes from the even series t of z as in exp(z) = 1 + (z - (z t / (t - 2) - correction)).
-//
-// A result below the normal range is rounded by an addition: 2^149 times the result has its last place at that of 2^23,
-// and the sum of both holds the subnormal's pattern.
-ZTHALF_INLINE float exponential(split p, float sum) {
+// in magnitude, is the exponent, but a sum of one half stays whole. For the rest, with z = rest * ln 2 in two parts,
+// exp(z) = 1 + z + ... comes from the even series t of z as in exp(z) = 1 + (z - (z t / (t - 2) - correction)).
+template <class Parts = bitwiseParts>
+ZTHALF_INLINE scaledNumber scaledExponential(split p, float sum) {
   constexpr float ln2 = floatOf(0x3F317218u);           // 0.6931471824645996
   constexpr float ln2Remainder = floatOf(0x35BFBE8Cu);  // 1.4286065379565116e-06
   constexpr float p1 = floatOf(0x3E2AAAABu);            // 0.1666666716337204, near 1/6
   constexpr float p2 = floatOf(0xBB360B70u);            // -0.0027777813374996185, near -1/360
   constexpr float p3 = floatOf(0x388A4F5Fu);            // 6.595136801479384e-05
 
-  const float magnitude = magnitudeOf(sum);
+  const float magnitude = Parts::magnitudeOf(sum);
   const float held = magnitude < 150.0f ? magnitude : 150.0f;
   const std::int32_t whole = static_cast<std::int32_t>(held + 0.5f) & maskOf<std::int32_t>(held > 0.5f);
   const std::int32_t flip = signedBitsOf(sum) >> 31;
   const std::int32_t m = (whole ^ flip) - flip;
 
   const float rest = p.upper - static_cast<float>(m);
-  const float t = upperHalf(p.lower + rest);
+  const float t = Parts::upperHalf(p.lower + rest);
   const float u = t * ln2Upper;
   const float v = (p.lower - (t - rest)) * ln2 + t * ln2Remainder;
   const float z = u + v;
@@ -137,8 +148,13 @@ ZTHALF_INLINE float exponential(split p, float sum) {
   const float square = z * z;
   const float series = z - square * (square * (square * p3 + p2) + p1);
   const float r = (z * series) / (series + -2.0f) - (w + z * w);
-  const float result = (z - r) + 1.0f;
+  return {(z - r) + 1.0f, m};
+}
 
+// The same as one float. A result below the normal range is rounded by an addition: 2^149 times the result has its last
+// place at that of 2^23, and the sum of both holds the subnormal's pattern.
+ZTHALF_INLINE float exponential(split p, float sum) {
+  const auto [result, m] = scaledExponential(p, sum);
   const float scaled = exponentRaised(result, m);
   const float raised = exponentRaised(result, 149 + (m < -125 ? m : -125));
   const std::uint32_t subnormal = bitsOf(raised + 0x1p23f) - bitsOf(0x1p23f);

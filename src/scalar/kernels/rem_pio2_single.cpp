@@ -42,7 +42,7 @@ constexpr auto multiplesOfHalfPi = [] {
 reducedAngle byOneStep(float x) {
   const std::uint32_t magnitude = magnitudeBitsOf(x);
   const bool isNear = magnitude >= nearHalfPi && magnitude < nearHalfPi + 48;
-  const float sign = hasSign(x) ? -1.0f : 1.0f;
+  const float sign = floatOf((bitsOf(x) & signBit) | bitsOf(1.0f));
   float z = x - sign * lead[0];
   if (isNear) z = z - sign * lead[1];
   const float t = sign * rest[isNear ? 1 : 0];
@@ -84,7 +84,7 @@ reducedAngle byRepeatedSteps(float x) {
   }
   const float upper = y.upper();
   const float lower = (y.r - upper) - y.w;
-  return hasSign(x) ? reducedAngle{-n, -upper, -lower} : reducedAngle{n, upper, lower};
+  return reducedAngle{n, upper, lower}.negatedIf(bitsOf(x) & signBit);
 }
 
 // Above: |x| = 2^exponent * z with z in [128, 256), whose three digits to the base 256 are the significand's bytes.
@@ -92,7 +92,7 @@ reducedAngle byDigits(float x) {
   const auto significand = static_cast<std::int32_t>(fractionBitsOf(x) | hiddenBit);
   const reducedAngle y =
       kernelRemPio2({{significand >> 16, significand >> 8 & 0xFF, significand & 0xFF}, exponentFieldOf(x) - 134});
-  return hasSign(x) ? reducedAngle{-y.n, -y.upper, -y.lower} : y;
+  return y.negatedIf(bitsOf(x) & signBit);
 }
 
 }  // namespace

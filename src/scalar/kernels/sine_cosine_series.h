@@ -2,6 +2,8 @@
 // Internal: promises nothing to users of the library.
 #pragma once
 
+#include <cstdint>
+
 #include "scalar/kernels/float_fields.h"
 #include "scalar/kernels/rem_pio2_single.h"
 
@@ -23,14 +25,17 @@ inline constexpr float cosine2 = floatOf(0xBAB60B60u);  // -0.0013888888
 inline constexpr float cosine3 = floatOf(0x37D00AD5u);  // 2.4800576e-05
 inline constexpr float cosine4 = floatOf(0xB4928E05u);  // -2.7297952e-07
 
+// The selections in what follows are masks: which case an angle is depends on the end of a long reduction, and a branch
+// on it, as good as random, would hold up everything behind.
+
 // sin(a + b) for a pair whose b is small against a: sin a + b cos a, with cos a = 1 - z/2. Every term that contains b
 // is added to the small correction and not to a.
-inline float sinPoly(float a, float b) {
-  if (magnitudeOf(a) < tinyAngle) return a;
+ZTHALF_INLINE float sinPoly(float a, float b) {
   const float z = a * a;
   const float v = a * z;
   const float r = z * (z * sine4 + sine3) + sine2;
-  return a - (v * -sine1 + (z * (b * 0.5f - v * r) - b));
+  const float sine = a - (v * -sine1 + (z * (b * 0.5f - v * r) - b));
+  return floatOf(zthalf::select(zthalf::maskOf<std::uint32_t>(magnitudeOf(a) < tinyAngle), bitsOf(a), bitsOf(sine)));
 }
 
 // sin a for a single float.
@@ -42,35 +47,27 @@ inline float sinPoly(float a) {
 
 // cos(a + b) = cos a - a b. From 0.3 on 1 - z/2 would be rounded too coarsely. There 1 - h comes first, exact since h
 // has few bits, and z/2 - h, at most 0.11 in size, is subtracted with the rest: h is about |a|/4, and 0.28125 above
-// 0.78125.
-inline float cosPoly(float a, float b) {
+// 0.78125. A tiny angle gives 1 in the same way.
+ZTHALF_INLINE float cosPoly(float a, float b) {
   const float magnitude = magnitudeOf(a);
-  if (magnitude < tinyAngle) return 1.0f;
   const float z = a * a;
   const float c = z * (z * (z * cosine4 + cosine3) + cosine2) + cosine1;
   const float q = z * (z * c) - a * b;
-  if (magnitude < floatOf(0x3E99999Au)) return (q + z * -0.5f) + 1.0f;  // 0.3
-  if (magnitude > 0.78125f) return (q - (z * 0.5f + -0.28125f)) + 0.71875f;
-  const float h = upperHalf(magnitude) * 0.25f;
+  const float quarter = upperHalf(magnitude) * 0.25f;
+  const auto isLarge = zthalf::maskOf<std::uint32_t>(magnitude > 0.78125f);
+  const auto isSmall = zthalf::maskOf<std::uint32_t>(magnitude < floatOf(0x3E99999Au));  // 0.3
+  const float h = floatOf(zthalf::select(isLarge, bitsOf(0.28125f), bitsOf(quarter)) & ~isSmall);
   return (1.0f - h) - ((z * 0.5f - h) - q);
 }
 
-// sin and cos of n pi/2 + upper + lower. The reduction's NaN comes back as it is: arithmetic would leave its sign to
-// the order of operations.
-inline float sinQuadrant(reducedAngle const& y) {
-  if (y.upper != y.upper) return y.upper;
-  switch (y.n & 3) {
-    case 0:
-      return sinPoly(y.upper, y.lower);
-    case 1:
-      return cosPoly(y.upper, y.lower);
-    case 2:
-      return -sinPoly(y.upper, y.lower);
-    default:
-      return -cosPoly(y.upper, y.lower);
-  }
+// sin and cos of n pi/2 + upper + lower, which are no NaNs.
+ZTHALF_INLINE float sinQuadrant(reducedAngle const& y) {
+  const auto n = static_cast<std::uint32_t>(y.n);
+  const float sine = sinPoly(y.upper, y.lower);
+  const float cosine = cosPoly(y.upper, y.lower);
+  return floatOf(zthalf::select(0 - (n & 1), bitsOf(cosine), bitsOf(sine)) ^ (n & 2) << 30);
 }
 
-inline float cosQuadrant(reducedAngle const& y) { return sinQuadrant({y.n + 1, y.upper, y.lower}); }
+ZTHALF_INLINE float cosQuadrant(reducedAngle const& y) { return sinQuadrant({y.n + 1, y.upper, y.lower}); }
 
 }  // namespace qsl_scalar

@@ -1,7 +1,6 @@
 #include "scalar/kernels/sinpi_cospi_single.h"
 
-#include <cmath>
-#include <cstdlib>
+#include <cstdint>
 
 #include "scalar/kernels/pi_constants.h"
 #include "scalar/kernels/rem_pio2_single.h"
@@ -11,11 +10,12 @@ namespace qsl_scalar {
 
 namespace {
 
-// x modulo 2 in [-1, 1]. Nothing is rounded: fmod is exact, and so is a difference of neighbours.
-float halfTurnsWithin1(float x) {
-  const float r = magnitudeOf(x) < 2.0f ? x : std::fmod(x, 2.0f);
-  if (magnitudeOf(r) <= 1.0f) return r;
-  return r + (r > 0.0f ? -2.0f : 2.0f);
+// |x| modulo 2 in (-1, 1]. Nothing is rounded: halves and doubles of floats, and differences of neighbours, are exact.
+// From 2^24 on every float is an even integer.
+float halfTurnsWithin1(float magnitude) {
+  if (magnitude >= 0x1p24f) return 0.0f;
+  const float r = magnitude - 2.0f * static_cast<float>(static_cast<std::int32_t>(magnitude * 0.5f));
+  return r - floatOf(bitsOf(2.0f) & zthalf::maskOf<std::uint32_t>(r > 1.0f));
 }
 
 // Multiples of pi/12 have results of their own, since pi r is rounded and would spoil the exact ones among them. The
@@ -36,39 +36,42 @@ constexpr float sines[] = {
     1.0f,
 };
 
-// The sine has the sign of r, a zero included.
+// For r from 0 to 1.
 float sineOfTwelfths(float r) {
-  const int k = std::abs(static_cast<int>(r * 12.0f));
-  const float sine = sines[k <= 6 ? k : 12 - k];
-  return hasSign(r) ? -sine : sine;
+  const auto k = static_cast<std::int32_t>(r * 12.0f);
+  return sines[k <= 6 ? k : 12 - k];
 }
 
 float cosineOfTwelfths(float r) {
-  const int k = std::abs(static_cast<int>(r * 12.0f));
+  const auto k = static_cast<std::int32_t>(r * 12.0f);
   return k <= 6 ? sines[6 - k] : -sines[k - 6];
 }
 
 // pi r as n pi/2 plus an angle of at most pi/4. Multiples of 1/2 are subtracted from r, where that is exact, and what
 // is left is multiplied by pi in two parts.
 reducedAngle angleOf(float r) {
-  const float magnitude = magnitudeOf(r);
-  const std::int32_t quadrants = magnitude < 0.25f ? 0 : magnitude < 0.75f ? 1 : 2;
-  const std::int32_t n = r > 0.0f ? quadrants : -quadrants;
+  const std::int32_t n = static_cast<std::int32_t>(r >= 0.25f) + static_cast<std::int32_t>(r >= 0.75f);
   const float rest = r - 0.5f * static_cast<float>(n);
   return {n, piUpper * rest, piLower * rest};
 }
 
 }  // namespace
 
+// The sine is odd and the cosine even, in every bit: signs come in at the end, that of a zero too.
+
 float sinpiSingle(float x) {
-  if (magnitudeBitsOf(x) >= exponentBits) return domainNaN;
-  const float r = halfTurnsWithin1(x);
-  return isTwelfths(r) ? sineOfTwelfths(r) : sinQuadrant(angleOf(r));
+  const float magnitude = magnitudeOf(x);
+  if (bitsOf(magnitude) >= exponentBits) return domainNaN;
+  const float turned = halfTurnsWithin1(magnitude);
+  const float r = magnitudeOf(turned);
+  const float sine = isTwelfths(r) ? sineOfTwelfths(r) : sinQuadrant(angleOf(r));
+  return floatOf(bitsOf(sine) ^ ((bitsOf(x) ^ bitsOf(turned)) & signBit));
 }
 
 float cospiSingle(float x) {
-  if (magnitudeBitsOf(x) >= exponentBits) return domainNaN;
-  const float r = halfTurnsWithin1(x);
+  const float magnitude = magnitudeOf(x);
+  if (bitsOf(magnitude) >= exponentBits) return domainNaN;
+  const float r = magnitudeOf(halfTurnsWithin1(magnitude));
   return isTwelfths(r) ? cosineOfTwelfths(r) : cosQuadrant(angleOf(r));
 }
 

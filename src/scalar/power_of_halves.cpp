@@ -1,0 +1,38 @@
+#include "scalar/power_of_halves.h"
+
+namespace zthalf {
+
+namespace {
+
+// The single of a normal half.
+float widenNormal(std::uint16_t v) {
+  const auto placed = static_cast<std::uint32_t>(pattern::magnitudeOf(v)) << 13;
+  const auto sign = static_cast<std::uint32_t>(pattern::signOf(v)) << 16;
+  return floatOf((placed + ((127u - 15u) << 23)) | sign);
+}
+
+bool isNormal(std::uint16_t magnitude) {
+  constexpr unsigned smallest = 0x0400;
+  return magnitude - smallest <= pattern::largestFinite - smallest;
+}
+
+// All cases, and out of the way.
+[[gnu::noinline]] std::uint16_t anyPowerOfHalves(std::uint16_t x, std::uint16_t y) { return powerOfHalves(x, y); }
+
+}  // namespace
+
+// How many calls a processor has under way at a time depends on how many instructions each of them has, so the usual
+// case goes without those that decide the others: a positive normal x, a normal y, no square and no root. The power is
+// a number from 0 to 65536 then.
+std::uint16_t powerOfTwoHalves(std::uint16_t x, std::uint16_t y) {
+  constexpr std::uint16_t two = 0x4000, oneHalf = 0x3800;
+  const bool isUsual = isNormal(x) & isNormal(pattern::magnitudeOf(y)) & (y != two) & (y != oneHalf);
+  if (!isUsual) return anyPowerOfHalves(x, y);
+
+  using parts = qsl_scalar::singleFloatParts;
+  const qsl_scalar::powers::split log2X = qsl_scalar::powers::logarithmOfNormal<parts>(bitsOf(widenNormal(x)));
+  const float power = powerFromLogarithm<parts>(log2X, widenNormal(y));
+  return static_cast<std::uint16_t>(roundedInUpperHalf(static_cast<std::int32_t>(bitsOf(power))) >> 16);
+}
+
+}  // namespace zthalf
