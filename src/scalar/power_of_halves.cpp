@@ -31,8 +31,7 @@ std::uint16_t powerOfTwoHalves(std::uint16_t x, std::uint16_t y) {
 
   using parts = qsl_scalar::singleFloatParts;
   const qsl_scalar::powers::split log2X = qsl_scalar::powers::logarithmOfNormal<parts>(bitsOf(widenNormal(x)));
-  const float power = powerFromLogarithm<parts>(log2X, widenNormal(y));
-  return static_cast<std::uint16_t>(roundedInUpperHalf(static_cast<std::int32_t>(bitsOf(power))) >> 16);
+  return narrowPower(powerFromLogarithm<parts>(log2X, widenNormal(y)));
 }
 
 }  // namespace zthalf
