@@ -26,13 +26,12 @@ bool isNormal(std::uint16_t magnitude) {
 // a number from 0 to 65536 then.
 std::uint16_t powerOfTwoHalves(std::uint16_t x, std::uint16_t y) {
   constexpr std::uint16_t two = 0x4000, oneHalf = 0x3800;
-  const bool isUsual = isNormal(x) & isNormal(pattern::magnitudeOf(y)) & (y != two) & (y != oneHalf);
+  const bool isUsual = isNormal(x) && isNormal(pattern::magnitudeOf(y)) && y != two && y != oneHalf;
   if (!isUsual) return anyPowerOfHalves(x, y);
 
   using parts = qsl_scalar::singleFloatParts;
   const qsl_scalar::powers::split log2X = qsl_scalar::powers::logarithmOfNormal<parts>(bitsOf(widenNormal(x)));
-  const float power = powerFromLogarithm<parts>(log2X, widenNormal(y));
-  return static_cast<std::uint16_t>(roundedInUpperHalf(static_cast<std::int32_t>(bitsOf(power))) >> 16);
+  return narrowPower(powerFromLogarithm<parts>(log2X, widenNormal(y)));
 }
 
 }  // namespace zthalf

@@ -39,10 +39,15 @@ ZTHALF_INLINE float powerFromLogarithm(qsl_scalar::powers::split log2X, float y)
   return floatOf(notTooLarge & maskOf<std::uint32_t>(sum > -27.0f));
 }
 
+// narrow for a number from 0 to 65536.
+ZTHALF_INLINE std::uint16_t narrowPower(float power) {
+  return static_cast<std::uint16_t>(roundedInUpperHalf(static_cast<std::int32_t>(bitsOf(power))) >> 16);
+}
+
 // The base's logarithm is a constant. Any NaN gives the negative one.
 template <class Parts = qsl_scalar::bitwiseParts>
 ZTHALF_INLINE std::uint16_t powerOfBase(qsl_scalar::powers::split log2OfBase, std::uint16_t y) {
-  const std::uint16_t power = narrow(powerFromLogarithm<Parts>(log2OfBase, widenPower(y)));
+  const std::uint16_t power = narrowPower(powerFromLogarithm<Parts>(log2OfBase, widenPower(y)));
   const auto isNaN = maskOf<std::uint16_t>(static_cast<std::int16_t>(pattern::magnitudeOf(y)) >
                                            static_cast<std::int16_t>(pattern::infinity));
   return select(isNaN, static_cast<std::uint16_t>(pattern::quietNaN | pattern::signBit), power);
@@ -88,7 +93,8 @@ ZTHALF_INLINE std::uint16_t powerOfHalves(std::uint16_t x, std::uint16_t y) {
   const float whole = power + 0x1p23f;
   const std::uint32_t isWholeWord = maskOf<std::uint32_t>(whole - 0x1p23f == power);
   const std::uint32_t sign = bitsOf(wideX) & isWholeWord & (bitsOf(whole) << 31);
-  const std::uint16_t number = narrow(floatOf(magnitude | sign));
+  const std::int32_t held = smallerOf(static_cast<std::int32_t>(magnitude), upperOfSinglePower(16));
+  const auto number = static_cast<std::uint16_t>((roundedInUpperHalf(held) | sign) >> 16);
 
   // A negative x to a power that is not an integer, but for a zero and for -infinity to a negative power.
   constexpr std::uint16_t minusInfinity = pattern::infinity | pattern::signBit;
