@@ -11,7 +11,7 @@ namespace half_utils {
 
 // From how many elements on a pass reads the table: where it wins although no line of the table is in a cache. Fetching
 // costs about 4.5 ns a line and half a microsecond to begin with, at most 2,048 lines; with a warm table an element
-// costs 0.25 ns. A function that is computed one element at a time takes 9 to 45 ns and loses from about 90 elements
+// costs 0.25 ns. A function that is computed one element at a time takes 9 to 28 ns and loses from about 90 elements
 // on; one that runs in vector lanes, 0.6 to 1.2 ns at the highest level, loses once the fetching is paid for.
 template <class Ftor>
 inline constexpr unsigned long tableFrom = zthalf::earnsLevels<Ftor> ? 32768 : 128;
