@@ -56,8 +56,8 @@ FAULTS = [
           '0x97, 0xFF, 0xDE', '0x97, 0xFE, 0xDE', '^scalar/kernels/rem_pio2_single_accuracy'),
     Fault('the sine of infinity is the positive NaN', 'src/scalar/kernels/rem_pio2_single.cpp',
           'return {0, domainNaN, domainNaN};', 'return {0, -domainNaN, -domainNaN};', '^scalar/(trig|kernels/sin_cos)'),
-    Fault('the cosine goes through arithmetic with a NaN', 'src/scalar/kernels/sine_cosine_series.h',
-          'if (y.upper != y.upper) return y.upper;', '', '^scalar/(trig|kernels/sin_cos)'),
+    Fault('the cosine goes through arithmetic with a NaN', 'src/scalar/kernels/sin_cos_single.cpp',
+          'y.upper != y.upper ? y.upper : cosQuadrant(y)', 'cosQuadrant(y)', '^scalar/(trig|kernels/sin_cos)'),
     Fault('the lower part of an angle is lost in the sine', 'src/scalar/kernels/sine_cosine_series.h',
           '(z * (b * 0.5f - v * r) - b)', '(z * (b * 0.5f - v * r))', '^scalar/kernels/sin_cos'),
     Fault('floats next to a twelfth are computed', 'src/scalar/kernels/sinpi_cospi_single.cpp',
@@ -164,4 +164,25 @@ FAULTS = [
           'at.combination == 0 ? partial :', '', '^reduce/extrema'),
     Fault('positions in the whole array go by the fastest dimension alone', 'src/reduce/extremum_position.h',
           'combination % shape.size(p) * shape.stride(p)', 'combination * shape.stride(p)', '^reduce/extrema_along'),
+
+    # Complex halves and mixed operands
+    Fault('a zero part of a factor makes a NaN beside an infinity', 'src/scalar/complex/product.h',
+          'return {z.re == 0 ? 0 : re, im};', 'return {re, im};', '^(scalar/complex|elementwise/arithmetic)'),
+    Fault('the sum of two products is not moved off a tie', 'src/scalar/complex/product.h',
+          'using exactInDouble = exactProducts<42>;', 'using exactInDouble = exactProducts<41>;',
+          '^elementwise/arithmetic'),
+    Fault('a product in doubt is kept', 'src/scalar/functors/complex_product_blocks.h',
+          'if (doubt != 0) {', 'if (false) {', '^elementwise/arithmetic'),
+    Fault('a real number by an imaginary one has no signed zero', 'src/scalar/complex/quotient.h',
+          'std::copysign(Wide(0), d)', 'Wide(0)', '^elementwise/arithmetic'),
+    Fault('an absent imaginary part is added as minus zero', 'src/scalar/mixed_arithmetic.h',
+          'realSum(x.im, B{0})', 'partAsHalf(x.im)', '^elementwise/arithmetic'),
+
+    # Sums, products and means
+    Fault('the left half of an odd range is the longer one', 'src/reduce/tree.h',
+          'return begin + (end - begin) / 2;', 'return begin + (end - begin + 1) / 2;', '^reduce/'),
+    Fault('a mean in single skips a rounding', 'src/reduce/division.h',
+          'outputPart<Out>::of(static_cast<float>(q))', 'outputPart<Out>::of(q)', '^reduce/'),
+    Fault('a column keeps the NaN of its total first', 'src/reduce/lane_fold.h',
+          'Step::settled(partial, total)\n', 'Step::settled(total, partial)\n', '^reduce/'),
 ]

@@ -3,33 +3,25 @@
 // Internal: promises nothing to users of the library.
 #pragma once
 
+#include "core/float_unit.h"
 #include "reduce/folds/steps.h"
 #include "scalar/multiply_add.h"
 
 namespace half_utils {
 
-// The sign of a NaN flips too.
-template <class Wide>
-ZTHALF_INLINE Wide negated(Wide x) {
-  using word = typename zthalf::formatOf<Wide>::word;
-  return zthalf::valueOf(zthalf::bitsOf(x) ^ word{1} << (8 * sizeof(Wide) - 1));
-}
-
-template <class Wide>
-ZTHALF_INLINE Wide settledProduct(Wide x, Wide y) {
-  return zthalf::settled(x * y, x, y);
-}
+using zthalf::definedUnit;
+using zthalf::withSignFlipped;
 
 // x z + y w, none of them zero. In single: exact products in double, whose sum is made safe for the rounding to single.
 inline float sumOfProducts(float x, float z, float y, float w) {
-  const double p = settledProduct<double>(x, z);
-  const double q = settledProduct<double>(y, w);
+  const double p = definedUnit::product<double>(x, z);
+  const double q = definedUnit::product<double>(y, w);
   return static_cast<float>(zthalf::settled(zthalf::nudgedSum<29>(p, q), p, q));
 }
 
 // In double the first product is fused with the sum.
 inline double sumOfProducts(double x, double z, double y, double w) {
-  return zthalf::fusedMultiplyAdd(x, z, settledProduct(y, w));
+  return zthalf::fusedMultiplyAdd(x, z, definedUnit::product(y, w));
 }
 
 // Parts that are zeros of either sign take no part, so that an infinity in the other operand makes no NaN with them.
@@ -37,11 +29,11 @@ inline double sumOfProducts(double x, double z, double y, double w) {
 template <class Wide>
 value<Wide, 2> complexProduct(value<Wide, 2> x, value<Wide, 2> y) {
   const Wide a = x.part[0], b = x.part[1], c = y.part[0], d = y.part[1];
-  if (b == 0) return {{d != 0 && c == 0 ? 0 : settledProduct(a, c), d != 0 ? settledProduct(a, d) : 0}};
-  if (d == 0) return {{a == 0 ? 0 : settledProduct(a, c), settledProduct(b, c)}};
-  if (a == 0) return {{settledProduct(d, negated(b)), c == 0 ? 0 : settledProduct(b, c)}};
-  if (c == 0) return {{settledProduct(d, negated(b)), settledProduct(a, d)}};
-  return {{sumOfProducts(a, c, b, negated(d)), sumOfProducts(a, d, b, c)}};
+  if (b == 0) return {{d != 0 && c == 0 ? 0 : definedUnit::product(a, c), d != 0 ? definedUnit::product(a, d) : 0}};
+  if (d == 0) return {{a == 0 ? 0 : definedUnit::product(a, c), definedUnit::product(b, c)}};
+  if (a == 0) return {{definedUnit::product(d, withSignFlipped(b)), c == 0 ? 0 : definedUnit::product(b, c)}};
+  if (c == 0) return {{definedUnit::product(d, withSignFlipped(b)), definedUnit::product(a, d)}};
+  return {{sumOfProducts(a, c, b, withSignFlipped(d)), sumOfProducts(a, d, b, c)}};
 }
 
 template <class Accumulator>

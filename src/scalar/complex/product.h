@@ -5,9 +5,8 @@
 // NaN, as infinity times the zero part would. What is left away is left away before it is computed.
 #pragma once
 
-#include <cmath>
-
 #include "scalar/complex/complex_value.h"
+#include "scalar/multiply_add.h"
 #include "scalar/nudged_sum.h"
 
 namespace zthalf {
@@ -15,41 +14,25 @@ namespace zthalf {
 // The sum of two products of four numbers that are not zero, ready for its rounding to half. The three ways differ in
 // what they guard against.
 
-// Parts that are halves: their products are exact in float.
-struct exactInSingle {
-  template <class Unit>
-  ZTHALF_INLINE static float sumOfProducts(Unit, float p, float r, float q, float s) {
-    const float first = Unit::product(p, r);
-    const float second = Unit::product(q, s);
-    if constexpr (std::is_same_v<Unit, definedUnit>) return settled(nudgedSum<13>(first, second), first, second);
-    return nudgedSum<13>(first, second);
+// Exact products: of halves in float, of halves and floats in double. The rounding to half drops so many bits.
+template <int dropped>
+struct exactProducts {
+  template <class Unit, class Wide>
+  ZTHALF_INLINE static Wide sumOfProducts(Unit, Wide p, Wide r, Wide q, Wide s) {
+    const Wide first = Unit::product(p, r);
+    const Wide second = Unit::product(q, s);
+    const Wide sum = nudgedSum<dropped>(first, second);
+    return std::is_same_v<Unit, definedUnit> ? settled(sum, first, second) : sum;
   }
 };
+using exactInSingle = exactProducts<13>;
+using exactInDouble = exactProducts<42>;
 
-// Floats and halves: the products are exact in double.
-struct exactInDouble {
-  template <class Unit>
-  ZTHALF_INLINE static double sumOfProducts(Unit, double p, double r, double q, double s) {
-    const double first = Unit::product(p, r);
-    const double second = Unit::product(q, s);
-    if constexpr (std::is_same_v<Unit, definedUnit>) return settled(nudgedSum<42>(first, second), first, second);
-    return nudgedSum<42>(first, second);
-  }
-};
-
-// Doubles and halves: the second product is rounded, the first is fused with the sum. The fused operation's NaN is the
-// first one of its three operands, a signalling one before a quiet one; the rounded product is quiet.
+// Doubles and halves: the second product is rounded, the first is fused with the sum.
 struct fusedInDouble {
   template <class Unit>
-  ZTHALF_INLINE static double sumOfProducts(Unit, double p, double r, double q, double s) {
-    const double second = Unit::product(q, s);
-    const double fused = std::fma(p, r, second);
-    if constexpr (std::is_same_v<Unit, definedUnit>) {
-      if (fused == fused) return fused;
-      const double product = settled(p * r, p, r);
-      return product != product && p == p && r == r ? settled(fused, second) : settled(fused, product, second);
-    }
-    return fused;
+  static double sumOfProducts(Unit, double p, double r, double q, double s) {
+    return fusedMultiplyAdd(p, r, Unit::product(q, s));
   }
 };
 
