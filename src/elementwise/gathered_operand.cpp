@@ -59,8 +59,11 @@ gatheredOperand::gatheredOperand(void const* array, std::size_t elementSize, sha
     : array_(array), elementSize_(elementSize) {
   unsigned long elements = 1;
   for (unsigned long d = 0; d < out.ndims; ++d) {
-    const unsigned long step = operand.size(d) == 1 ? 0 : elements;
-    elements *= operand.size(d);
+    // By the output's sizes, which are the operand's where it varies: shapes that do not agree are then read in the
+    // order of memory, as one long run of them would be.
+    const bool varies = operand.size(d) != 1;
+    const unsigned long step = varies ? elements : 0;
+    if (varies) elements *= out.dims[d];
     if (out.dims[d] == 1) continue;
     if (!dimensions_.empty() && step == dimensions_.back().step * dimensions_.back().size) {
       dimensions_.back().size *= out.dims[d];
