@@ -32,7 +32,7 @@ void expectAnswer(comparison<Left, Right> compare, Left x, Right y, bool expecte
     const auto b = std::make_unique<Right[]>(n);
     std::fill_n(a.get(), n, x);
     std::fill_n(b.get(), n, y);
-    for (const auto [na, nb] : {std::pair{n, n}, std::pair{n, 1UL}, std::pair{1UL, n}}) {
+    for (auto const& [na, nb] : {std::pair{n, n}, std::pair{n, 1UL}, std::pair{1UL, n}}) {
       answers c(n + 1, 0xA5);
       compare(a.get(), b.get(), reinterpret_cast<bool*>(c.data()), na, 1, &na, nb, 1, &nb, n, 1, &n);
       answers wanted(n + 1, static_cast<unsigned char>(expected));
@@ -46,7 +46,7 @@ void expectAnswer(comparison<Left, Right> compare, Left x, Right y, bool expecte
   expectAnswer<Left, Right>(static_cast<comparison<Left, Right>>(&half_vector::op), x, y, expected)
 
 TEST(Comparison, TheTwoZerosAreEqual) {
-  for (const auto [x, y] : {std::pair{zero, minusZero}, std::pair{minusZero, zero}}) {
+  for (auto const& [x, y] : {std::pair{zero, minusZero}, std::pair{minusZero, zero}}) {
     EXPECT_ANSWER(eq, half_t, half_t, x, y, true);
     EXPECT_ANSWER(ne, half_t, half_t, x, y, false);
     EXPECT_ANSWER(ge, half_t, half_t, x, y, true);
