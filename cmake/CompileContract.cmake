@@ -9,13 +9,52 @@ target_compile_options(zthalf_contract INTERFACE
   -fno-math-errno          # no errno is ever read; without this a sqrt loop stays a loop of calls
 )
 
-foreach(flags IN ITEMS "${CMAKE_CXX_FLAGS}" "${CMAKE_CXX_FLAGS_RELEASE}" "${CMAKE_CXX_FLAGS_RELWITHDEBINFO}"
-                       "${CMAKE_CXX_FLAGS_DEBUG}" "$ENV{CXXFLAGS}")
-  if(flags MATCHES "-ffast-math|-Ofast|-mdaz-ftz|-march=|-mfma|-ffp-contract=(fast|on)|-funsafe|-fassociative")
-    message(FATAL_ERROR "'${CMAKE_MATCH_0}' would change results: zthalf's bits are defined operation by operation, and "
-                        "wide instructions are chosen at run time. Configure without it.")
+# Flags from outside, the user's or an enclosing project's, stand before all of these on the command line. What gives
+# other bits even so stops the configuration.
+set(ZTHALF_CHANGES_BITS -ffast-math -Ofast -funsafe-math-optimizations -fassociative-math -freciprocal-math
+  -ffinite-math-only -fno-signed-zeros -fsingle-precision-constant -fcx-limited-range -fcx-fortran-rules -fapprox-func
+  "-ffp-model=[^ ]*" "-fdenormal-fp-math[^ ]*" -mdaz-ftz "-mrecip[^ ]*" "-mfpmath=[^ ]*(387|both)[^ ]*")
+list(JOIN ZTHALF_CHANGES_BITS "|" ZTHALF_CHANGES_BITS)
+
+# A flag that names a processor changes no bit, since nothing is fused, whatever the processor could fuse. It decides
+# where the library runs, and what its base level is made of.
+set(ZTHALF_NAMES_PROCESSOR "-m(arch|cpu)=[^ ]+|-m(sse[34.]|ssse|avx|fma|f16c|bmi)[^ ]*")
+
+get_directory_property(ZTHALF_OUTER_OPTIONS COMPILE_OPTIONS)
+set(ZTHALF_OUTER_FLAGS CMAKE_CXX_FLAGS CMAKE_CXX_COMPILER_ARG1 ZTHALF_OUTER_OPTIONS CMAKE_SHARED_LINKER_FLAGS)
+foreach(config IN LISTS CMAKE_BUILD_TYPE CMAKE_CONFIGURATION_TYPES)
+  string(TOUPPER ${config} config)
+  list(APPEND ZTHALF_OUTER_FLAGS CMAKE_CXX_FLAGS_${config} CMAKE_SHARED_LINKER_FLAGS_${config})
+endforeach()
+set(ZTHALF_PROCESSOR_FLAG "")
+foreach(variable IN LISTS ZTHALF_OUTER_FLAGS)
+  string(REGEX REPLACE "[;:<> \t]+" " " flags " ${${variable}} ")
+  if(flags MATCHES " (${ZTHALF_CHANGES_BITS}) ")
+    message(FATAL_ERROR "'${CMAKE_MATCH_1}' would change results: zthalf's bits are defined operation by operation. "
+                        "Configure without it.")
+  elseif(flags MATCHES " (${ZTHALF_NAMES_PROCESSOR}) ")
+    set(ZTHALF_PROCESSOR_FLAG ${CMAKE_MATCH_1})
   endif()
 endforeach()
+if(ZTHALF_PROCESSOR_FLAG)
+  message(WARNING "'${ZTHALF_PROCESSOR_FLAG}' changes no result, but zthalf will run only on processors that it allows. "
+                  "Wide instructions are chosen at run time without it.")
+endif()
+
+# Optimised is everything but Debug, whatever the build type is called: a distribution's None with -O2, an enclosing
+# project's RelWithDebInfo. Sanitizers say the same of code that is compiled faster.
+set(ZTHALF_OPTIMISED $<NOT:$<CONFIG:Debug>>)
+string(TOUPPER "${CMAKE_BUILD_TYPE}" config)
+set(ZTHALF_IS_OPTIMISED TRUE)
+if(CMAKE_CXX_FLAGS MATCHES "-fsanitize" OR config STREQUAL "DEBUG")
+  set(ZTHALF_OPTIMISED 0)
+  set(ZTHALF_IS_OPTIMISED FALSE)
+endif()
+# A distribution has its own word on the checks of the C library.
+set(ZTHALF_FORTIFY ${ZTHALF_OPTIMISED})
+if(CMAKE_CXX_FLAGS MATCHES "_FORTIFY_SOURCE")
+  set(ZTHALF_FORTIFY 0)
+endif()
 
 # What every object of the library is built with beside the numeric flags.
 add_library(zthalf_build INTERFACE)
@@ -23,9 +62,9 @@ target_link_libraries(zthalf_build INTERFACE zthalf_contract)
 target_compile_features(zthalf_build INTERFACE cxx_std_20)
 target_compile_options(zthalf_build INTERFACE
   -Wall -Wextra -Wmissing-declarations $<$<BOOL:${ZTHALF_WERROR}>:-Werror>
-  $<$<CONFIG:Release>:-O3>            # width; element results do not depend on it, and the tests say so
+  $<${ZTHALF_OPTIMISED}:-O3>          # width: GCC 12 vectorises next to nothing at -O2; element results do not depend on it
   -fstack-protector-strong
-  $<$<CONFIG:Release>:-U_FORTIFY_SOURCE> $<$<CONFIG:Release>:-D_FORTIFY_SOURCE=2>
+  $<${ZTHALF_FORTIFY}:-U_FORTIFY_SOURCE> $<${ZTHALF_FORTIFY}:-D_FORTIFY_SOURCE=2>
 )
 
 # The thread sanitizer knows nothing of what the system's oneTBB does inside, since that is built without it. The

@@ -69,7 +69,7 @@ class Build:
     def __init__(self, work, release, jobs):
         self.tree, self.release, self.jobs = os.path.join(work, 'tree'), release, str(jobs)
         self.folder = os.path.join(work, 'release' if release else 'plain')
-        kind = ['-DCMAKE_BUILD_TYPE=Release'] if release else ['-DCMAKE_BUILD_TYPE=Plain', '-DCMAKE_CXX_FLAGS=-O1']
+        kind = ['-DCMAKE_BUILD_TYPE=Release'] if release else ['-DCMAKE_BUILD_TYPE=Debug', '-DCMAKE_CXX_FLAGS_DEBUG=-O1']
         status, output = run('cmake', '-G', 'Ninja', '-S', self.tree, '-B', self.folder, '-DCMAKE_CXX_COMPILER=g++',
                              '-DZTHALF_BUILD_EXAMPLES=OFF', *kind)
         if status != 0:
