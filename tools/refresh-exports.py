@@ -1,9 +1,9 @@
 #!/usr/bin/env python3
-"""Rewrites tests/abi/exports.txt and tests/abi/entries.txt from a built library.
+"""Rewrites tests/abi/exports.txt, tests/abi/entries.txt and the Debian package's list of symbols from a built library.
 
 usage: tools/refresh-exports.py [LIBRARY]        (default build/release/libzthalf.so)
 
-Both are reviewed lists: look at the difference before committing it.
+They are reviewed lists: look at the difference before committing it.
 """
 import os
 import sys
@@ -11,6 +11,7 @@ import sys
 ROOT = os.path.join(os.path.dirname(os.path.abspath(__file__)), '..')
 sys.path.insert(0, os.path.join(ROOT, 'tests', 'abi'))
 sys.dont_write_bytecode = True
+import debian_symbols_test  # noqa: E402
 import entries_test  # noqa: E402
 import entry_names  # noqa: E402
 import exports_test  # noqa: E402
@@ -36,15 +37,17 @@ def exports_text(path):
 
 
 def write(name, lines):
-    with open(os.path.join(ROOT, 'tests', 'abi', name), 'w') as text:
-        text.write('\n'.join(lines) + '\n')
+    text = '\n'.join(lines) + '\n'
+    with open(os.path.join(ROOT, name), 'w') as file:
+        file.write(text)
 
 
 def main(path):
-    write('exports.txt', exports_text(path))
-    write('entries.txt', entries_text(library.entries(path)))
+    write('tests/abi/exports.txt', exports_text(path))
+    write('tests/abi/entries.txt', entries_text(library.entries(path)))
+    write(debian_symbols_test.LIST, debian_symbols_test.refreshed(ROOT, path))
     library.run('git', '-C', ROOT, 'rev-parse')
-    print(library.run('git', '-C', ROOT, 'diff', '--stat', '--', 'tests/abi') or 'no change')
+    print(library.run('git', '-C', ROOT, 'diff', '--stat', '--', 'tests/abi', 'debian') or 'no change')
 
 
 if __name__ == '__main__':

@@ -11,3 +11,4 @@
 #include "zthalf/half_vector.h"
 #include "zthalf/lifecycle.h"
 #include "zthalf/mod_rem.h"
+#include "zthalf/version.h"

@@ -1,4 +1,4 @@
-// The two words that decide what leaves the library.
+// Marks what the library exports.
 #pragma once
 
 #if defined(__GNUC__)

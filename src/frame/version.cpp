@@ -1,0 +1,3 @@
+#include "zthalf/version.h"
+
+int zthalf_version() { return ZTHALF_VERSION; }

@@ -1,0 +1,76 @@
+"""The Debian package's list of symbols is the library's: every name, under its SONAME, with the version it came in.
+
+usage: debian_symbols_test.py SOURCE_DIRECTORY LIBRARY
+"""
+import os
+import re
+import sys
+
+import library
+
+LIST = os.path.join('debian', 'libzthalf0.symbols')
+LINE = re.compile(r' (\S+)@Base (\S+)$')
+
+
+def version(source):
+    """The version that the headers tell."""
+    with open(os.path.join(source, 'include', 'zthalf', 'version.h')) as header:
+        numbers = re.findall(r'^#define ZTHALF_VERSION_(?:MAJOR|MINOR|PATCH) (\d+)$', header.read(), re.M)
+    return '.'.join(numbers)
+
+
+def soname(path):
+    return re.search(r'\(SONAME\).*\[(.*)\]', library.run('readelf', '--wide', '--dynamic', path)).group(1)
+
+
+def head(path):
+    name = soname(path)
+    return '%s lib%s%s #MINVER#' % (name, *re.match(r'lib(\w+)\.so\.(\d+)$', name).groups())
+
+
+def listed(source):
+    """(first line, {mangled name: since which version}); nothing where there is no list yet"""
+    path = os.path.join(source, LIST)
+    if not os.path.exists(path):
+        return '', {}
+    with open(path) as text:
+        lines = text.read().splitlines()
+    rows = [LINE.match(line) for line in lines[1:]]
+    if not all(rows):
+        sys.exit('FAILED: cannot read %s: %s' % (LIST, lines[1 + rows.index(None)]))
+    return lines[0], {row.group(1): row.group(2) for row in rows}
+
+
+def refreshed(source, path):
+    """The list as it should be: names that stand in it keep their version, new ones get the present one."""
+    since, now = listed(source)[1], version(source)
+    yield head(path)
+    for name in sorted({s.name for s in library.exported(path)}):
+        yield ' %s@Base %s' % (name, since.get(name, now))
+
+
+def numbers(text):
+    return [int(n) for n in text.split('.')]
+
+
+def main(source, path):
+    report = library.Report('debian symbols')
+    first, since = listed(source)
+    report.require(first == head(path), '%s begins with "%s", not "%s"' % (LIST, first, head(path)))
+    exported = {s.name for s in library.exported(path)}
+    for name in sorted(exported - since.keys()):
+        report.require(False, '%s is exported and not in %s: run tools/refresh-exports.py' % (name, LIST))
+    for name in sorted(since.keys() - exported):
+        report.require(False, '%s is in %s and not exported' % (name, LIST))
+    now = version(source)
+    for name, began in since.items():
+        report.require(numbers(began) <= numbers(now), '%s is said to have come in %s; this is %s' % (name, began, now))
+    with open(os.path.join(source, 'debian', 'changelog')) as changelog:
+        latest = changelog.readline()
+    report.require(re.match(r'zthalf \(%s[)~+-]' % re.escape(now), latest), 'debian/changelog speaks of another version than %s: %s'
+                   % (now, latest))
+    report.finish()
+
+
+if __name__ == '__main__':
+    main(*sys.argv[1:3])
