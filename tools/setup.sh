@@ -17,6 +17,7 @@ setup_packages() {
       test) echo python3 libgtest-dev libgmock-dev libmpfr-dev libmpc-dev ;;
       cross) echo g++-aarch64-linux-gnu qemu-user-static libtbb-dev:arm64 googletest ;;
       full) echo clang libclang-rt-14-dev ;;
+      package) echo debhelper lintian dpkg-dev fakeroot debootstrap ;;
       bench) echo libbenchmark-dev ;;
       *) echo "setup_packages: there is no group '$group'" >&2 && return 1 ;;
     esac

@@ -1,4 +1,5 @@
-"""The installed tree serves a program that knows nothing else: through find_package and through pkg-config.
+"""The installed tree serves a program that knows nothing else: through find_package and through pkg-config. So it does
+the README's example, which prints what the README says.
 
 usage: consumer_test.py SOURCE_DIRECTORY BUILD_DIRECTORY CXX_COMPILER
 """
@@ -39,6 +40,9 @@ def main(source, build, compiler):
         os.environ['LD_LIBRARY_PATH'] = os.path.dirname(package[0])
         library.run(program)
         report.require(True, 'by pkg-config')
+        os.environ.update(CMAKE_PREFIX_PATH=prefix, CXX=compiler)
+        library.run('sh', os.path.join(source, 'debian', 'tests', 'readme-example'))
+        report.require(True, 'the README\'s example')
 
         installed = [os.path.relpath(os.path.join(parent, name), prefix)
                      for parent, _, names in os.walk(prefix) for name in names]
@@ -47,7 +51,8 @@ def main(source, build, compiler):
         for name in public:
             report.require(name in installed, '%s was not installed' % name)
         for name in installed:
-            report.require('libzthalf' in name or 'cmake/zthalf' in name or name.endswith('zthalf.pc') or name in public,
+            report.require('libzthalf' in name or 'cmake/zthalf' in name or name.endswith('zthalf.pc') or name in public or
+                           name == os.path.join('share', 'doc', 'zthalf', 'LICENSE'),
                            '%s was installed, and should not be' % name)
     report.finish()
 

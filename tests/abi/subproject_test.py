@@ -23,6 +23,11 @@ def targets(folder):
     return names
 
 
+def has_install_rules(folder):
+    with open(os.path.join(folder, 'zthalf', 'cmake_install.cmake')) as rules:
+        return 'file(INSTALL' in rules.read()
+
+
 def main(source, compiler):
     report = library.Report('subproject')
     with tempfile.TemporaryDirectory() as work:
@@ -50,11 +55,9 @@ def main(source, compiler):
         report.require(not foreign, 'targets without our name: %s' % ', '.join(sorted(foreign)))
         report.require('libzthalf.so' in targets(tree.folder), 'the targets were not read')
 
-        library.run('cmake', '--install', tree.folder)
-        report.require(not os.path.exists(os.path.join(work, 'prefix')), 'the library is installed with the project')
+        report.require(not has_install_rules(tree.folder), 'the library is installed with the project')
         status, output = tree.configure('-DZTHALF_INSTALL=ON')
-        rules = open(os.path.join(tree.folder, 'zthalf', 'cmake_install.cmake')).read()
-        report.require(status == 0 and 'zthalfTargets' in rules, 'ZTHALF_INSTALL=ON has no effect')
+        report.require(status == 0 and has_install_rules(tree.folder), 'ZTHALF_INSTALL=ON has no effect')
     report.finish()
 
 
