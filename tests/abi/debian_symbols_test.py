@@ -67,8 +67,8 @@ def main(source, path):
         report.require(numbers(began) <= numbers(now), '%s is said to have come in %s: this is %s' % (name, began, now))
     with open(os.path.join(source, 'debian', 'changelog')) as changelog:
         latest = changelog.readline()
-    report.require(re.match(r'zthalf \(%s[)~+-]' % re.escape(now), latest), 'debian/changelog speaks of another version than %s: %s'
-                   % (now, latest))
+    report.require(re.match(r'zthalf \(%s[)~+-]' % re.escape(now), latest),
+                   'debian/changelog speaks of another version than %s: %s' % (now, latest))
     report.finish()
 
 
