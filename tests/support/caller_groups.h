@@ -31,7 +31,7 @@ void spin(std::chrono::nanoseconds time);
 // Expects of a call what it returns alone, whatever becomes of the group that it is made in. The moments of the
 // disturbances are spread over the time that the call takes.
 template <class Call>
-void expectUndisturbed(std::string const& name, Call call, int rounds = 10) {
+void expectUndisturbed(std::string const& name, Call call, int rounds = 5) {
   onThreads(4, [&] {
     const auto alone = call();
     using clock = std::chrono::steady_clock;
