@@ -3,7 +3,6 @@
 
 #include <atomic>
 #include <cfenv>
-#include <numeric>
 #include <stdexcept>
 #include <vector>
 
@@ -96,33 +95,29 @@ TEST(Forks, RethrowWhatLeavesABodyInsideOfACancelledGroupToo) {
 // A caller may hold a lock that its other tasks want: they must not come to this thread while it waits in the library.
 TEST(Forks, TakeNoTaskOfTheCallersWhileTheyWait) {
   for (auto const& kind : forkKinds) {
-    onThreads(4, [&] {
-      std::atomic<int> nested = 0;
-      asPiecesOfALoop(200, [&] {
-        static thread_local int depth = 0;
-        if (++depth > 1) ++nested;
-        kind.run(16, [](unsigned long) { spin(microseconds(3)); });
-        --depth;
-      });
-      EXPECT_EQ(nested, 0) << kind.name;
+    onThreads(3, [&] {
+      waitingCall waiting;
+      EXPECT_EQ(waiting.tasksTakenDuring([&] { kind.run(2, [&](unsigned long) { waiting.meet(); }); }), 0) << kind.name;
+      EXPECT_TRUE(waiting.hasMet()) << kind.name;
     });
   }
 }
 
-// The same for the fork under reductions, which has its root elsewhere.
+struct meetingFold : tracedFold {
+  static inline waitingCall* waiting = nullptr;
+  static void leaves(half_utils::leafSpan<source> const* leaves, unsigned count, trace* results) {
+    waiting->meet();
+    tracedFold::leaves(leaves, count, results);
+  }
+};
+
 TEST(Forks, OfReductionsTakeNoTaskOfTheCallersEither) {
-  std::vector<std::uint32_t> x(200'000);
-  std::iota(x.begin(), x.end(), 1);
-  const auto expected = half_utils::reducedTree<tracedFold>(x.data(), x.size());
-  onThreads(4, [&] {
-    std::atomic<int> nested = 0;
-    asPiecesOfALoop(100, [&] {
-      static thread_local int depth = 0;
-      if (++depth > 1) ++nested;
-      EXPECT_EQ(half_utils::reducedTree<tracedFold>(x.data(), x.size()), expected);
-      --depth;
-    });
-    EXPECT_EQ(nested, 0);
+  const std::vector<std::uint32_t> x(100'000);
+  onThreads(3, [&] {
+    waitingCall waiting;
+    meetingFold::waiting = &waiting;
+    EXPECT_EQ(waiting.tasksTakenDuring([&] { half_utils::reducedTree<meetingFold>(x.data(), x.size()); }), 0);
+    EXPECT_TRUE(waiting.hasMet());
   });
 }
 

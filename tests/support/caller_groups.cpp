@@ -1,10 +1,7 @@
 #include "tests/support/caller_groups.h"
 
-#include <tbb/parallel_for.h>
-#include <tbb/partitioner.h>
 #include <tbb/task_group.h>
 
-#include <atomic>
 #include <stdexcept>
 
 #include "frame/task_order.h"
@@ -17,12 +14,17 @@ struct disturbed : std::runtime_error {
   disturbed() : std::runtime_error("another task of the caller's") {}
 };
 
+template <class Condition>
+void until(std::chrono::nanoseconds patience, Condition isMet) {
+  const auto end = std::chrono::steady_clock::now() + patience;
+  while (!isMet() && std::chrono::steady_clock::now() < end) {
+  }
+}
+
 }  // namespace
 
 void spin(std::chrono::nanoseconds time) {
-  const auto end = std::chrono::steady_clock::now() + time;
-  while (std::chrono::steady_clock::now() < end) {
-  }
+  until(time, [] { return false; });
 }
 
 void inCancelledGroup(anyCall call) {
@@ -55,9 +57,31 @@ void besideDisturbance(disturbance kind, std::chrono::nanoseconds after, anyCall
   }
 }
 
-void asPiecesOfALoop(int pieces, anyCall call) {
+// A third thread offers the tasks and takes none of them itself.
+int waitingCall::tasksTakenDuring(anyCall call) {
   half_utils::taskOrder order;
-  tbb::parallel_for(0, pieces, order.inTask([&](int) { call(); }), tbb::simple_partitioner());
+  tbb::task_group group;
+  caller_ = std::this_thread::get_id();
+  group.run([&] {
+    until(std::chrono::seconds(5), [&] { return callerWaits_ || isOver_; });
+    for (int i = 0; i < 20; ++i) {
+      group.run([&] { taken_ += !isOver_ && std::this_thread::get_id() == caller_; });
+    }
+    until(std::chrono::seconds(5), [&] { return isOver_.load(); });
+  });
+  order.inTask(call)();
+  isOver_ = true;
+  group.wait();
+  return taken_;
+}
+
+void waitingCall::meet() {
+  if (std::this_thread::get_id() == caller_) {
+    until(std::chrono::seconds(5), [&] { return otherHasCome_.load(); });
+    callerWaits_ = true;
+  } else if (!otherHasCome_.exchange(true)) {
+    until(std::chrono::milliseconds(100), [&] { return taken_ > 0; });
+  }
 }
 
 }  // namespace zthalf::testing

@@ -4,8 +4,10 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <atomic>
 #include <chrono>
 #include <string>
+#include <thread>
 
 #include "frame/parallel_ranges.h"
 #include "tests/support/drawn_values.h"
@@ -22,8 +24,22 @@ void inCancelledGroup(anyCall call);
 enum class disturbance { thrown, cancelled };
 void besideDisturbance(disturbance, std::chrono::nanoseconds after, anyCall call);
 
-// As so many pieces of a parallel loop.
-void asPiecesOfALoop(int pieces, anyCall call);
+// A call on this thread that waits for work on another one while there are tasks of the caller's to be taken.
+class waitingCall {
+ public:
+  // Makes the call, whose bodies are to call meet(). How many tasks of the caller's this thread took meanwhile.
+  int tasksTakenDuring(anyCall call);
+
+  // Holds this thread until another one has come to meet it, and the other one then for a while.
+  void meet();
+  // Whether another thread came at all.
+  bool hasMet() const { return otherHasCome_; }
+
+ private:
+  std::thread::id caller_;
+  std::atomic<bool> otherHasCome_ = false, callerWaits_ = false, isOver_ = false;
+  std::atomic<int> taken_ = 0;
+};
 
 // Lets so much time pass on this thread.
 void spin(std::chrono::nanoseconds time);
