@@ -93,11 +93,15 @@ ZTHALF_API void maxSimpleReduceWithIndex(std::complex<half_t>* src, std::complex
 /// dims[0] to dims[ndims - 1] are the sizes in memory order, first one fastest, and kept and reduced dimensions take
 /// turns: neighbours of one kind are given as one. The first dimension is reduced where firstReduced is true, otherwise
 /// it is kept. dst gets one element for each combination of the kept dimensions, the first of them fastest. A single
-/// dimension is reduced whatever firstReduced says. src must not be empty, and dst must not overlap it. "First" and
-/// "last" in the rules above count the elements of one output in memory order.
+/// dimension is reduced whatever firstReduced says, and must not be empty, as above. dst must not overlap src. "First"
+/// and "last" in the rules above count the elements of one output in memory order.
 ///
-/// Up to 1024 outputs are computed on the calling thread, more on several, and a single large array on several too; the
-/// results do not depend on it. Working arrays are allocated: a failure to get them throws std::bad_alloc.
+/// Of several dimensions a reduced one may have size 0: nothing is read, and each output is what any element would
+/// replace. That is Infinity for min and -Infinity for max, of complex elements (-Infinity, 0) and (0, 0), and a NaN,
+/// with an imaginary part of 0, where NaNs are omitted; the index is 0.
+///
+/// Up to 1024 outputs are computed on the calling thread, more on several, and a large array or column on several too;
+/// the results do not depend on it. Working arrays are allocated: a failure to get them throws std::bad_alloc.
 ZTHALF_API void minUnaryOp(void* src, void* dst, unsigned long ndims, unsigned long* dims, bool firstReduced,
                            bool omitNaN, bool isComplex);
 ZTHALF_API void maxUnaryOp(void* src, void* dst, unsigned long ndims, unsigned long* dims, bool firstReduced,

@@ -60,18 +60,24 @@ bool unaryWithEarlyExitByBlocks(In* src, Out* dst, unsigned long n, Ftor f, Pred
   return true;
 }
 
-// A body asks for the end of its piece at each step, and so stops soon after another one has cancelled. Which elements
-// have been written on false is not determined.
+// A body asks for the end of its piece at each step, and so stops soon after another one has cancelled. It asks once:
+// the end falls on the beginning at any moment, and of two answers each may be another. Which elements have been
+// written on false is not determined.
+template <class Range, class Ftor, class Pred, class In, class Out>
+void unaryWithEarlyExitPiece(Range const& r, In* src, Out* dst, Ftor f, Pred stop) {
+  for (unsigned long i = r.begin(); i < r.end(); ++i) {
+    if (stop(src[i])) {
+      r.cancel();
+    } else {
+      dst[i] = f(src[i]);
+    }
+  }
+}
+
 template <class Ftor, class Pred, class In, class Out>
 bool unaryWithEarlyExitParallel(In* src, Out* dst, unsigned long n, Ftor f, Pred stop) {
   return half_utils::forRangesUntilCancelled(n, earlyExitGrain, [=](half_utils::cancellableIndices const& r) {
-    for (unsigned long i = r.begin(); i < r.end(); ++i) {
-      if (stop(src[i])) {
-        r.cancel();
-      } else {
-        dst[i] = f(src[i]);
-      }
-    }
+    unaryWithEarlyExitPiece(r, src, dst, f, stop);
   });
 }
 
@@ -96,18 +102,23 @@ inline std::div_t pairOf(unsigned long i, unsigned long divisor) {
   return std::div(static_cast<int>(i), static_cast<int>(divisor));
 }
 
+template <class Range, class Ftor, class Pred, class Left, class Right, class Out>
+void binaryWithEarlyExitPiece(Range const& r, Left* a, Right* b, Out* dst, unsigned long divisor, Ftor f, Pred stop) {
+  for (unsigned long i = r.begin(); i < r.end(); ++i) {
+    const std::div_t pair = pairOf(i, divisor);
+    if (stop(a[pair.quot], b[pair.rem])) {
+      r.cancel();
+    } else {
+      dst[i] = f(a[pair.quot], b[pair.rem]);
+    }
+  }
+}
+
 template <class Ftor, class Pred, class Left, class Right, class Out>
 bool binaryWithEarlyExitParallel(Left* a, Right* b, Out* dst, unsigned long divisor, unsigned long n, Ftor f,
                                  Pred stop) {
   return half_utils::forRangesUntilCancelled(n, earlyExitGrain, [=](half_utils::cancellableIndices const& r) {
-    for (unsigned long i = r.begin(); i < r.end(); ++i) {
-      const std::div_t pair = pairOf(i, divisor);
-      if (stop(a[pair.quot], b[pair.rem])) {
-        r.cancel();
-      } else {
-        dst[i] = f(a[pair.quot], b[pair.rem]);
-      }
-    }
+    binaryWithEarlyExitPiece(r, a, b, dst, divisor, f, stop);
   });
 }
 
@@ -124,17 +135,22 @@ bool halfBinarySimpleLoopWithEarlyExit(Left* a, Right* b, Out* dst, unsigned lon
   return true;
 }
 
-// True when no element of src meets the condition. Above the threshold the scan really is parallel: a body goes through
-// its piece by blocks and asks between them whether another one has found an element.
+// A piece by blocks. Between them the end is asked for, once: whether there is a block and how long it is must follow
+// from one answer.
+template <class Pred, class Range, class T>
+void scanPiece(Range const& r, T* src) {
+  for (unsigned long i = r.begin(), end; i < (end = r.end()); i += scanBlock) {
+    if (anyMeets<Pred>(src + i, std::min(scanBlock, end - i))) r.cancel();
+  }
+}
+
+// True when no element of src meets the condition. Above the threshold the scan really is parallel.
 template <class Pred, class T>
 bool halfUnarySimpleReduceWithEarlyExit(T* src, unsigned long n, Pred, unsigned long threshold, unsigned long grain) {
   static_assert(std::is_empty_v<Pred>);
   if (n <= threshold) return !anyMeets<Pred>(src, n);
-  return half_utils::forRangesUntilCancelled(n, grain, [=](half_utils::cancellableIndices const& r) {
-    for (unsigned long i = r.begin(); i < r.end(); i += scanBlock) {
-      if (anyMeets<Pred>(src + i, std::min(scanBlock, r.end() > i ? r.end() - i : 0))) r.cancel();
-    }
-  });
+  return half_utils::forRangesUntilCancelled(n, grain,
+                                             [=](half_utils::cancellableIndices const& r) { scanPiece<Pred>(r, src); });
 }
 
 }  // namespace half::templates::emulated

@@ -4,23 +4,40 @@
 #include <tbb/parallel_for.h>
 #include <tbb/partitioner.h>
 
+#include "frame/fork.h"
+#include "frame/lost_threads.h"
 #include "frame/task_order.h"
 
 namespace half_utils {
 
-using range = tbb::blocked_range<unsigned long>;
+namespace {
+
+template <class Range, class Body, class Partitioner>
+void forkOver(Range const& range, Body body, Partitioner& partitioner) {
+  if (threadsAreLost()) return body(range);
+  tbb::task_group_context context = forkContext();
+  taskOrder order;
+  whileTakingOnlyOwnTasks([&] { tbb::parallel_for(range, order.inTask(body), partitioner, context); });
+}
+
+tbb::blocked_range<unsigned long> indices(unsigned long n, unsigned long grain) { return {0, n, grain}; }
+
+auto onBounds(rangeBody body) {
+  return [body](tbb::blocked_range<unsigned long> const& r) { body(r.begin(), r.end()); };
+}
+
+}  // namespace
 
 void forAffineRanges(unsigned long n, unsigned long grain, rangeBody body) {
+  if (n == 0) return;
   tbb::affinity_partitioner affinity;
-  taskOrder order;
-  tbb::parallel_for(range(0, n, grain), order.inTask([body](range const& r) { body(r.begin(), r.end()); }), affinity);
+  forkOver(indices(n, grain), onBounds(body), affinity);
 }
 
 void forRanges(unsigned long n, unsigned long grain, rangeBody body) {
+  if (n == 0) return;
   tbb::auto_partitioner const partitioner;
-  taskOrder order;
-  tbb::parallel_for(range(0, n, grain), order.inTask([body](range const& r) { body(r.begin(), r.end()); }),
-                    partitioner);
+  forkOver(indices(n, grain), onBounds(body), partitioner);
 }
 
 bool forRangesUntilCancelled(unsigned long n, unsigned long grain, cancellableBody body) {
@@ -28,8 +45,8 @@ bool forRangesUntilCancelled(unsigned long n, unsigned long grain, cancellableBo
   cancellableIndices const all(0, n, grain, &cancelled);
   if (!all.empty()) {
     tbb::auto_partitioner const partitioner;
-    taskOrder order;
-    tbb::parallel_for(all, order.inTask([body](cancellableIndices const& r) { body(r); }), partitioner);
+    forkOver(
+        all, [body](cancellableIndices const& r) { body(r); }, partitioner);
   }
   return !cancelled;
 }

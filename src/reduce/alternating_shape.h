@@ -22,6 +22,8 @@ class alternatingShape {
   unsigned long combinations() const { return combinations_; }
   // The length of the contiguous runs of the column form; also the step from one of its outputs to the next.
   unsigned long runLength() const { return size(0); }
+  // Whether a reduced size is 0, so that no output has an element.
+  bool reducesNothing() const { return combinations_ == 0 || (leading_ == 1 && runLength() == 0); }
 
   // The fastest kept position. The ones after it are by turns reduced and kept.
   unsigned long leading() const { return leading_; }

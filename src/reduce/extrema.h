@@ -2,6 +2,8 @@
 // Internal: promises nothing to users of the library.
 #pragma once
 
+#include <algorithm>
+
 #include "reduce/complex_extremum_folds.h"
 #include "reduce/real_extremum_along.h"
 
@@ -32,6 +34,19 @@ indexedElement<cplxHalf> extremumOfAll(cplxHalf const* src, unsigned long n) {
   return {asResultElement(found.held.value()), static_cast<double>(found.index)};
 }
 
+// An output without an element, since a reduced dimension has size 0: there is nothing to read, and the result is what
+// any element would have replaced. That is a NaN where NaNs are omitted, otherwise what stands behind everything else;
+// for complex elements the longest or the shortest one, with the largest angle or none.
+template <class Kind, class T>
+T extremumOfNothing() {
+  using zthalf::pattern::infinity;
+  constexpr bool isSmallest = Kind::which == zthalf::extremum::smallest;
+  constexpr bool isComplex = std::is_same_v<T, cplxHalf>;
+  constexpr std::uint16_t minusInfinity = zthalf::pattern::signBit | infinity;
+  constexpr std::uint16_t last = isComplex ? (isSmallest ? minusInfinity : 0) : (isSmallest ? infinity : minusInfinity);
+  return T(fp16binary_t{Kind::nanWins ? last : zthalf::pattern::quietNaN});
+}
+
 // The value alone or with its index. Of complex columns the two need not be the same element.
 enum class wanted { value, indexedValue };
 
@@ -53,6 +68,10 @@ void forEachExtremum(cplxHalf const* src, alternatingShape const& shape, bool fi
 template <class Kind, class T>
 void extremaAlong(T* src, T* dst, unsigned long ndims, unsigned long const* dims, bool firstReduced) {
   const alternatingShape shape(ndims, dims, firstReduced);
+  if (shape.reducesNothing()) {
+    std::fill_n(dst, shape.outputs(), extremumOfNothing<Kind, T>());
+    return;
+  }
   forEachExtremum<Kind, wanted::value>(
       src, shape, firstReduced,
       [dst](unsigned long output, extremumStanding<T> const& found) { dst[output] = asResultElement(found.value); });
@@ -62,6 +81,11 @@ template <class Kind, class T>
 void extremaAlong(T* src, T* dst, double* index, unsigned long ndims, unsigned long const* dims, bool firstReduced,
                   bool linear) {
   const alternatingShape shape(ndims, dims, firstReduced);
+  if (shape.reducesNothing()) {
+    std::fill_n(dst, shape.outputs(), extremumOfNothing<Kind, T>());
+    std::fill_n(index, shape.outputs(), 0.0);
+    return;
+  }
   forEachExtremum<Kind, wanted::indexedValue>(
       src, shape, firstReduced, [&](unsigned long output, extremumStanding<T> const& found) {
         dst[output] = asResultElement(found.value);

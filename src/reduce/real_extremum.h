@@ -74,12 +74,16 @@ class realExtremumSearch {
     return {smallest, at + first(src + at, std::min(n - at, stretch)).position};
   }
 
-  // The same in pieces that several threads take. How it is cut follows from the number of elements.
+  // The same, of many elements in pieces that several threads take. How they are cut follows from their number.
   placedElement amongMany(fp16binary_t const* src, unsigned long n) const {
+    return n <= elementsPerTask ? among(src, n) : amongPieces(src, n);
+  }
+
+ private:
+  placedElement amongPieces(fp16binary_t const* src, unsigned long n) const {
     constexpr unsigned long mostPieces = 64;
     const unsigned long piece = std::max(n / mostPieces + 1, elementsPerTask);
     const unsigned long pieces = (n - 1) / piece + 1;
-    if (pieces == 1) return among(src, n);
     placedElement found[mostPieces];
     forRanges(pieces, 1, [&](unsigned long begin, unsigned long end) {
       for (unsigned long p = begin; p < end; ++p) found[p] = among(src + p * piece, std::min(piece, n - p * piece));
@@ -90,7 +94,6 @@ class realExtremumSearch {
     return {found[best].place, best * piece + found[best].position};
   }
 
- private:
   static constexpr unsigned long stretch = 2048;
   static_assert(stretch <= firstSmallestPass<Kind>::mostElements);
   static constexpr unsigned long aFew = 8;                   // not worth a call

@@ -8,7 +8,7 @@
 
 namespace half_utils {
 
-// The column form: the extremum of each run, and of those.
+// The column form: the extremum of each run, and of those. There is at least one run, and an element in it.
 template <class Kind, class Write>
 void realExtremaOfColumns(fp16binary_t const* src, alternatingShape const& shape, Write write) {
   constexpr unsigned long widest = 32;
@@ -24,7 +24,7 @@ void realExtremaOfColumns(fp16binary_t const* src, alternatingShape const& shape
       for (unsigned long c = 0; c < block.length; ++c) {
         fp16binary_t const* const origin = src + block.offset + c * n;
         fp16binary_t const* const run = origin + walk.offset();
-        const placedElement found = search.among(run, n);
+        const placedElement found = search.amongMany(run, n);
         if (k == 0 || replaces<Kind>(found.place, totals[c].place))
           totals[c] = {found.place, {run[found.position], origin, k, found.position}};
       }

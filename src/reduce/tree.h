@@ -99,7 +99,11 @@ typename Fold::accumulator reducedSubtree(typename Fold::source const* tree, uns
 // The whole tree. Without an element it is its initial value.
 template <class Fold>
 typename Fold::accumulator reducedTree(typename Fold::source const* tree, unsigned long n) {
-  return n == 0 ? Fold::initial(tree) : reducedSubtree<Fold>(tree, 0, n);
+  if (n == 0) return Fold::initial(tree);
+  if (n <= elementsPerTask<Fold>) return reducedSubtree<Fold>(tree, 0, n);
+  typename Fold::accumulator result;
+  asForkingTree([&] { result = reducedSubtree<Fold>(tree, 0, n); });
+  return result;
 }
 
 // Trees of n elements each, one after the other in memory; there are no more of them than treesAtOnce(n).

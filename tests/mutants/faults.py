@@ -13,6 +13,7 @@ FLOAT = 'src/core/float_conversion.h'
 INTEGER = 'src/core/integer_conversion.h'
 NAN = 'src/core/nan_policy.h'
 EARLY_EXIT = 'src/frame/early_exit_loop.h'
+FORK = 'src/frame/fork.h'
 EXPANSION = 'src/elementwise/expansion.cpp'
 CONTRACT = 'cmake/CompileContract.cmake'
 
@@ -94,6 +95,15 @@ FAULTS = [
     Fault('a loop runs backwards', 'src/frame/simple_loop.h',
           'for (unsigned long i = 0; i < n; ++i) dst[i] = Ftor{}(src[i]);',
           'for (unsigned long i = n; i-- > 0;) dst[i] = Ftor{}(src[i]);', '^frame/'),
+    Fault('a piece of a scan asks twice where it ends', EARLY_EXIT,
+          'std::min(scanBlock, end - i)', 'std::min(scanBlock, r.end() - i)', '^frame/early_exit_pieces'),
+    Fault('a fork is cancelled with the group of its caller', FORK, 'group::isolated', 'group::bound', '^frame/fork'),
+    Fault('tasks run in the floating-point environment of their arena', FORK,
+          'group::fp_settings', 'group::default_traits', '^frame/fork'),
+    Fault('a waiting thread takes tasks of the caller', FORK,
+          'tbb::this_task_arena::isolate(loop);', 'loop();', '^frame/fork'),
+    Fault('a copied process gives work to threads that it does not have', 'src/frame/lost_threads.cpp',
+          'return lost.load(std::memory_order_relaxed);', 'return false;', '^frame/forked_process'),
     Fault('a dimension does not go back to its start', EXPANSION,
           'here.moves[o] * (here.size - 1);', 'here.moves[o] * (here.size - 1 - (here.size > 2));', '^elementwise/'),
     Fault('an operand of size 1 moves', EXPANSION,
@@ -152,6 +162,11 @@ FAULTS = [
           'return held.real() < 0 ?', 'return false ?', '^scalar/extremum'),
     Fault('squares tell lengths apart among subnormals too', 'src/scalar/complex_extremum.h',
           'square + squareOfCandidate > 0x1p-200', 'true', '^scalar/extremum'),
+    Fault('an empty run is searched', 'src/reduce/alternating_shape.h',
+          'return combinations_ == 0 || (leading_ == 1 && runLength() == 0);', 'return combinations_ == 0;',
+          '^reduce/extrema_of_nothing'),
+    Fault('a column stays on one thread however tall', 'src/reduce/real_extremum_along.h',
+          'search.amongMany(run, n)', 'search.among(run, n)', '^reduce/calling_thread'),
     Fault('of nothing but NaNs the first is found', 'src/reduce/real_extremum.h',
           'if (smallest == zthalf::lastPlace) return {smallest, n - 1};', '', '^reduce/extrema_whole'),
     Fault('steps are counted from the last settling on', 'src/reduce/real_extremum_along.h',

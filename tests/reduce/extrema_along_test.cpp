@@ -107,6 +107,16 @@ TEST(ExtremaAlongDimensions, OfLargeShapes) {
   }
 }
 
+// Columns that are each looked through by several threads.
+TEST(ExtremaAlongDimensions, OfColumnsThatFork) {
+  bitSource bits(236);
+  for (const filling kind : {filling::ties, filling::ascending, filling::nearlyAllNaN, filling::allNaN}) {
+    checkShape<half_t>({600'000, 2}, kind, bits, {true});
+    checkShape<half_t>({(1 << 18) + 1, 1, 3}, kind, bits, {true});
+    if (::testing::Test::HasFatalFailure()) return;
+  }
+}
+
 // More steps than a 16-bit number counts.
 TEST(ExtremaAlongDimensions, OfVeryLongRows) {
   bitSource bits(234);
