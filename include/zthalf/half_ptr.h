@@ -2,7 +2,7 @@
 #pragma once
 
 #include "zthalf/detail/element_types.h"
-#include "zthalf/detail/entries.h"
+#include "zthalf/detail/entries_begin.h"
 #include "zthalf/detail/entry_shapes.h"
 #include "zthalf/detail/export.h"
 
@@ -73,3 +73,5 @@ ZTHALF_API bool isInitialized();
 ZTHALF_API int CPU_Dispatch(int);
 
 }  // namespace half_ptr
+
+#include "zthalf/detail/entries_end.h"

@@ -3,17 +3,25 @@
 
 #include <complex>
 #include <cstdint>
+#include <initializer_list>
+#include <type_traits>
 
 #include "zthalf/detail/export.h"
+#include "zthalf/detail/one_pattern.h"
 
 /// A half-precision number: sign in bit 15, biased exponent (bias 15) in bits 14 to 10, fraction in bits 9 to 0.
 ///
 /// The pattern is the value. 2 bytes, trivially copyable, an array of half_t is an array of patterns with no gaps.
 /// `half_t{0x3C00}` is 1.0; conversions from numbers are in half_scalar.h and half_vector.h.
 ///
+/// No number becomes a half by itself, or is taken for a pattern: braces hold the pattern, and there is no construction
+/// in parentheses, no cast and no implicit conversion. `half_t(1.5f)`, `half_t{1.5f}`, `static_cast<half_t>(x)` and a
+/// vector of halves made from a range of numbers do not compile.
+///
 /// Arithmetic widens both operands to float (exact), performs one float operation in round-to-nearest-even with
-/// subnormals kept, and rounds the float to half. For `+`, `-` and `/` that is two roundings on purpose: the result
-/// may differ in the last place from a single correct rounding. Overflow gives an infinity, nothing is reported.
+/// subnormals kept, and rounds the float to half. For `+`, `-` and `/` that is two roundings, but a float is wide
+/// enough for the result to be that of a single one: it is the half nearest to the exact sum, difference or quotient.
+/// Overflow gives an infinity, nothing is reported.
 ///
 /// NaN results are 0x7E00 with the sign told here. An invalid operation (infinity minus infinity, 0 times infinity,
 /// 0/0, infinity/infinity) gives the positive NaN 0x7E00. With one NaN operand the result has that NaN's sign. With
@@ -24,6 +32,16 @@
 /// No operation has a failure path, reads or changes the floating-point environment, or throws.
 struct ZTHALF_API half_t {
   std::uint16_t bits;  ///< the binary16 pattern
+
+  /// Without braces the pattern is left as it is in memory; `half_t{}` is +0.
+  half_t() = default;
+  /// `half_t{0x3C00}`, or `{0x3C00}` where a half_t is expected: exactly one pattern. Of two a constant expression does
+  /// not compile, nor does optimised code that shows them; otherwise the program stops there.
+  [[gnu::always_inline]] constexpr half_t(std::initializer_list<std::uint16_t> pattern) noexcept
+      : bits(zthalf::onlyPatternOf(pattern)) {}
+  /// Floats, doubles and truth values are no patterns, whatever their value.
+  template <class T, zthalf::enable_if_no_pattern<T> = 0>
+  half_t(std::initializer_list<T>) = delete;
 
   /// The same pattern, NaN included.
   half_t operator+() const;
@@ -59,37 +77,17 @@ struct ZTHALF_API half_t {
 /// A `half_t*` may be passed as a `fp16binary_t*` unchanged; the type has no operations of its own.
 struct ZTHALF_API fp16binary_t {
   std::uint16_t bits;  ///< the binary16 pattern
+
+  /// As in half_t.
+  fp16binary_t() = default;
+  [[gnu::always_inline]] constexpr fp16binary_t(std::initializer_list<std::uint16_t> pattern) noexcept
+      : bits(zthalf::onlyPatternOf(pattern)) {}
+  template <class T, zthalf::enable_if_no_pattern<T> = 0>
+  fp16binary_t(std::initializer_list<T>) = delete;
 };
 
 static_assert(sizeof(half_t) == 2 && alignof(half_t) == 2);
 static_assert(sizeof(fp16binary_t) == 2 && alignof(fp16binary_t) == 2);
-
-/// Complex halves: two adjacent patterns, real part first.
-///
-/// Each part of a result is rounded to half. A sum or difference is that of half_t on each part. Products and quotients
-/// take no part in which an operand is zero, of either sign: a real or imaginary operand gives no spurious NaN beside
-/// an infinity, and a part that nothing contributes to is +0. Otherwise
-///   product:   each part as if it were computed exactly and rounded once;
-///   quotient:  (x conj y) / |y|^2 step by step in float, by Smith's method where |y|^2 is infinite, by halves where
-///   the
-///              divisor's parts have one magnitude. Divided by zero, a part of zero gives +0 beside a part that is not.
-/// NaN: 0x7E00 with the sign of the part that it comes from, positive where an operation is invalid; with two NaNs a
-/// signalling one goes before a quiet one, then the one whose product or operand is written first above.
-///
-/// - changes the sign of both parts, but the imaginary part of a result is never -0.
-/// == holds where both parts are equal, != where one differs. The four orderings look at the real parts alone.
-ZTHALF_API std::complex<half_t> operator+(std::complex<half_t> x, std::complex<half_t> y);
-ZTHALF_API std::complex<half_t> operator-(std::complex<half_t> x, std::complex<half_t> y);
-ZTHALF_API std::complex<half_t> operator*(std::complex<half_t> x, std::complex<half_t> y);
-ZTHALF_API std::complex<half_t> operator/(std::complex<half_t> x, std::complex<half_t> y);
-ZTHALF_API std::complex<half_t> operator-(std::complex<half_t> z);
-
-ZTHALF_API bool operator==(std::complex<half_t> x, std::complex<half_t> y);
-ZTHALF_API bool operator!=(std::complex<half_t> x, std::complex<half_t> y);
-ZTHALF_API bool operator>(std::complex<half_t> x, std::complex<half_t> y);
-ZTHALF_API bool operator>=(std::complex<half_t> x, std::complex<half_t> y);
-ZTHALF_API bool operator<(std::complex<half_t> x, std::complex<half_t> y);
-ZTHALF_API bool operator<=(std::complex<half_t> x, std::complex<half_t> y);
 
 namespace half {
 
@@ -108,3 +106,7 @@ struct realType<std::complex<fp16binary_t>> {
 };
 
 }  // namespace half
+
+// What the standard library's own templates would otherwise make of a half: limits of zero, and other complex products.
+#include "zthalf/complex_half.h"
+#include "zthalf/half_limits.h"

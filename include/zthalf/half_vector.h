@@ -2,7 +2,7 @@
 #pragma once
 
 #include "zthalf/detail/element_types.h"
-#include "zthalf/detail/entries.h"
+#include "zthalf/detail/entries_begin.h"
 #include "zthalf/detail/export.h"
 #include "zthalf/float_type.h"
 
@@ -254,3 +254,5 @@ ZTHALF_SIMPLE_REDUCTION_ENTRIES(ZTHALF_DECLARE_SIMPLE_REDUCTION)
 #undef ZTHALF_DECLARE_SIMPLE_REDUCTION
 
 }  // namespace half_vector
+
+#include "zthalf/detail/entries_end.h"

@@ -1,6 +1,7 @@
 // The functions of min and max that choose an entry of the table by the types they are told.
 #include <type_traits>
 
+#include "zthalf/detail/entries.h"
 #include "zthalf/half_extrema.h"
 #include "zthalf/half_ptr.h"
 

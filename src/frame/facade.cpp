@@ -1,4 +1,5 @@
 // The facade: each function loads its entry of the table and jumps to it with all arguments as they came.
+#include "zthalf/detail/entries.h"
 #include "zthalf/half_ptr.h"
 #include "zthalf/half_vector.h"
 

@@ -1,4 +1,5 @@
 // The table's variables, filled statically: no code runs to make them.
+#include "zthalf/detail/entries.h"
 #include "zthalf/half_extrema.h"
 #include "zthalf/half_ops.h"
 #include "zthalf/half_ptr.h"

@@ -2,6 +2,7 @@
 
 #include "scalar/functors/hyperbolic_functors.h"
 #include "tests/support/array_form.h"
+#include "zthalf/detail/entries.h"
 #include "zthalf/half_scalar.h"
 #include "zthalf/half_vector.h"
 

@@ -4,6 +4,7 @@
 
 #include "scalar/logarithm.h"
 #include "tests/support/array_form.h"
+#include "zthalf/detail/entries.h"
 #include "zthalf/half_ops.h"
 #include "zthalf/half_scalar.h"
 #include "zthalf/half_vector.h"

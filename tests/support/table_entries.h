@@ -1,6 +1,7 @@
 // All entries of the table as data, read from the entry list.
 #pragma once
 
+#include "zthalf/detail/entries.h"
 #include "zthalf/half_extrema.h"
 #include "zthalf/half_ops.h"
 #include "zthalf/half_ptr.h"

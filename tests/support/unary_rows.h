@@ -3,6 +3,7 @@
 
 #include "tests/support/drawn_values.h"
 #include "tests/support/scalar_rules.h"
+#include "zthalf/detail/entries.h"
 #include "zthalf/half_ops.h"
 #include "zthalf/half_ptr.h"
 #include "zthalf/half_vector.h"

@@ -6,7 +6,10 @@
 // as a test's expected value, in tests/abi/entries.txt.
 //
 // An entry enters this list in the change that brings its body.
-#pragma once
+//
+// The list may be included any number of times: whoever reads it includes it, and it is there. A public header wraps it
+// in entries_begin.h and entries_end.h, which take it away again unless it was there before. A new macro of this file
+// is named in entries_end.h as well.
 
 // Unary rows: X(entry, facade name, input tag, output tag, template instance or function in namespace half)
 

@@ -32,6 +32,13 @@ struct castToFtor<bool, fp16binary_t, void> {
   ZTHALF_INLINE fp16binary_t operator()(unsigned char x) const { return {zthalf::logicalToHalf(x)}; }
 };
 
+// The same pattern, that of a NaN too. Both of the others would match.
+template <>
+struct castToFtor<fp16binary_t, fp16binary_t, void> {
+  static constexpr unsigned long grain = 128;
+  ZTHALF_INLINE fp16binary_t operator()(fp16binary_t x) const { return x; }
+};
+
 template <class To>
 struct castToFtor<fp16binary_t, To, void> {
   static constexpr unsigned long grain = 128;
