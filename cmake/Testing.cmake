@@ -3,6 +3,9 @@
 # The one way a test is made: an executable with the library's internals and GoogleTest. With LEVELS it is registered
 # once for each instruction level, name@base, name@v3, name@v4, and a level that the processor lacks counts as skipped.
 # Tests whose GoogleTest names begin with Long are left to a second registration with the label long.
+#
+# The label cross marks what is built and run for every architecture, also where the rest is not: the target cross_checks.
+add_custom_target(cross_checks)
 
 if(CMAKE_CROSSCOMPILING)
   # Debian ships GoogleTest for foreign architectures as sources.
@@ -34,6 +37,9 @@ function(zthalf_add_test)
   string(REPLACE "/" "_" target test_${test_NAME})
   add_executable(${target} ${test_SOURCES})
   target_link_libraries(${target} PRIVATE zthalf_test_support)
+  if("cross" IN_LIST test_LABELS)
+    add_dependencies(cross_checks ${target})
+  endif()
   file(STRINGS ${test_SOURCES} long_tests REGEX "^TEST(_P|_F)?\\(Long")
   set(levels ${ZTHALF_LEVELS})
   if(NOT test_LEVELS)

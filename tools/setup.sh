@@ -16,6 +16,8 @@ setup_packages() {
       build) echo g++ cmake ninja-build libtbb-dev pkg-config binutils ;;
       test) echo python3 libgtest-dev libgmock-dev libmpfr-dev libmpc-dev ;;
       cross) echo g++-aarch64-linux-gnu qemu-user-static libtbb-dev:arm64 googletest ;;
+      ppc64le) echo g++-powerpc64le-linux-gnu qemu-user-static libtbb-dev:ppc64el googletest ;;
+      s390x) echo g++-s390x-linux-gnu qemu-user-static libtbb-dev:s390x googletest ;;
       full) echo clang libclang-rt-14-dev ;;
       package) echo debhelper lintian dpkg-dev fakeroot debootstrap ;;
       bench) echo libbenchmark-dev ;;
@@ -33,7 +35,10 @@ setup_missing() {
 
 # The lines that install the given packages, as a person would type them.
 setup_commands() {
-  case " $* " in *:arm64\ *) echo "dpkg --add-architecture arm64" ;; esac
+  local package
+  for package in "$@"; do
+    case $package in *:*) echo "dpkg --add-architecture ${package#*:}" ;; esac
+  done
   echo "apt-get update"
   echo "apt-get install --yes --no-install-recommends $*"
 }

@@ -57,10 +57,35 @@ ZTHALF_INLINE Wide quieted(Wide nan) {
   return valueOf(bitsOf(nan) | typename format::word{1} << (format::fractionWidth - 1));
 }
 
+// The same for any x: a number stays as it is. By masks, for vector lanes.
+template <class Wide>
+ZTHALF_INLINE Wide withQuietNaN(Wide x) {
+  using format = formatOf<Wide>;
+  using word = typename format::word;
+  return valueOf(bitsOf(x) | (maskOf<word>(x != x) & (word{1} << (format::fractionWidth - 1))));
+}
+
 template <class Wide>
 ZTHALF_INLINE bool isSignalling(Wide x) {
   using format = formatOf<Wide>;
   return x != x && (bitsOf(x) & (typename format::word{1} << (format::fractionWidth - 1))) == 0;
+}
+
+// Whether a signalling single is quiet once it is a double, whatever did the widening. On x86-64 and 64-bit ARM it is:
+// every instruction that widens makes it so, in vector lanes too, and compilers do where they know the value. They may
+// leave the widening out only where nobody looks at the double's bits. On POWER it depends: vector instructions do it,
+// but a single is loaded as a double with its bits as they were.
+#if defined(__x86_64__) || defined(__aarch64__)
+inline constexpr bool wideningQuiets = true;
+#else
+inline constexpr bool wideningQuiets = false;
+#endif
+
+// A single as a double, exactly; a NaN has become quiet, its sign and payload kept. Where it matters afterwards which
+// kind of NaN it is, a single becomes a double here and nowhere else.
+ZTHALF_INLINE double asDouble(float x) {
+  const double wide = x;
+  return wideningQuiets ? wide : withQuietNaN(wide);
 }
 
 // The default NaN of an invalid operation: positive.

@@ -1,4 +1,5 @@
 // Questions about a whole array: the scan ends at the first element that answers them.
+#include <array>
 #include <bit>
 
 #include "frame/early_exit_loop.h"
@@ -13,15 +14,19 @@ using templates::emulated::halfUnarySimpleReduceWithEarlyExit;
 constexpr unsigned long scanThreshold = 2048;  // from 2049 elements on the scan is parallel
 constexpr unsigned long scanGrain = 256;
 
-// A complex element as one word, its real part in the low half on the little-endian machines served here. The arrays
-// are only aligned for their parts, hence packed.
-static_assert(std::endian::native == std::endian::little);
+// A complex element as one word. Which half of the word the real part is depends on the machine's order of bytes, so
+// masks are made of parts. The arrays are only aligned for their parts, hence packed.
 struct [[gnu::packed]] complexElement {
   std::uint32_t word;
 };
 
+constexpr std::uint32_t wordOf(std::uint16_t re, std::uint16_t im) {
+  return std::bit_cast<std::uint32_t>(std::array{re, im});
+}
+constexpr std::uint32_t imaginaryMagnitude = wordOf(0, 0x7FFF);
+
 struct imaginaryPartIsNotZero {
-  ZTHALF_INLINE bool operator()(complexElement z) const { return (z.word & 0x7FFF0000u) != 0; }
+  ZTHALF_INLINE bool operator()(complexElement z) const { return (z.word & imaginaryMagnitude) != 0; }
 };
 
 struct isNotFinite {

@@ -7,6 +7,7 @@
 
 #include "core/bits.h"
 #include "core/float_conversion.h"
+#include "core/nan_policy.h"
 
 namespace zthalf {
 
@@ -27,11 +28,14 @@ inline constexpr bool anyHalf = (isHalfOperand<Operands> || ...);
 template <class... Operands>
 using widestOf = std::conditional_t<anyDouble<Operands...>, double, float>;
 
-// The operand in a type that holds its value exactly.
+// The operand in a type that holds its value exactly. Of NaNs a float's becomes quiet in double, a half's stays what it
+// is.
 template <class Wide, class T>
 ZTHALF_INLINE Wide exactly(T operand) {
   if constexpr (isHalfOperand<T>) {
     return widen<Wide>(operand);
+  } else if constexpr (anyDouble<Wide> && anyFloat<T>) {
+    return asDouble(operand);
   } else {
     return static_cast<Wide>(operand);
   }

@@ -116,6 +116,12 @@ TYPED_TEST(SettledWide, QuietingKeepsSignAndPayload) {
   for (const auto w : this->nans()) compare.check(bitsOf(quieted(valueOf(w))), w | this->quiet, w);
 }
 
+TYPED_TEST(SettledWide, QuietingOfAnythingLeavesNumbersAlone) {
+  bitComparison compare("withQuietNaN");
+  for (const auto w : this->nans()) compare.check(bitsOf(withQuietNaN(valueOf(w))), w | this->quiet, w);
+  for (const auto w : this->numbers()) compare.check(bitsOf(withQuietNaN(valueOf(w))), w, w);
+}
+
 TYPED_TEST(SettledWide, TakesTheDecidingNaNMadeQuietWhateverTheProcessorChose) {
   bitComparison compare("settled");
   for (const auto first : this->all()) {

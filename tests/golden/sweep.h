@@ -16,14 +16,25 @@
 
 namespace zthalf::golden {
 
-// FNV-1a over the bytes of the results, which are the same on all machines served: little-endian, no padding.
+// What a number of type T is made of: of numbers in one piece.
+template <class T>
+struct pieceOf {
+  using type = T;
+};
+template <class T>
+struct pieceOf<std::complex<T>> {
+  using type = T;
+};
+
+// FNV-1a over the bytes of the results, those of each number from the lowest to the highest on every machine.
 class resultHash {
  public:
   template <class T>
   void add(T const* results, std::size_t n) {
     static_assert(std::is_trivially_copyable_v<T>);
+    constexpr std::size_t flip = std::endian::native == std::endian::little ? 0 : sizeof(typename pieceOf<T>::type) - 1;
     auto const* const bytes = reinterpret_cast<unsigned char const*>(results);
-    for (std::size_t i = 0; i < n * sizeof(T); ++i) hash_ = (hash_ ^ bytes[i]) * 0x100000001B3u;
+    for (std::size_t i = 0; i < n * sizeof(T); ++i) hash_ = (hash_ ^ bytes[i ^ flip]) * 0x100000001B3u;
     count_ += n;
   }
   template <class T>

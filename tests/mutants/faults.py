@@ -41,6 +41,12 @@ FAULTS = [
           '(first & ~second) << 6', '(first & ~second & 0) << 6', '^(core/nan|scalar/half)'),
     Fault('the left NaN of a sum wins', 'src/scalar/half_arithmetic.h',
           'widen<float>(b) + widen<float>(a), b, a)', 'widen<float>(b) + widen<float>(a), a, b)', '^scalar/half'),
+    Fault('a signalling single still signals as a double', NAN,
+          'const double wide = x;',
+          'const double wide = isSignalling(x) ? valueOf(bitsOf(double{x}) ^ 0x8000000000000) : x;',
+          '^(core/single_to_double|scalar/multiply_add|elementwise/arithmetic)'),
+    Fault('what makes every NaN quiet leaves it alone', NAN,
+          'bitsOf(x) | (maskOf<word>(x != x) & ', 'bitsOf(x) | (maskOf<word>(x < x) & ', '^core/nan_policy'),
 
     # Scalar functions
     Fault('minus zero is less than zero', 'src/core/patterns.h',

@@ -79,9 +79,12 @@ struct number {
   Part re, im;
 };
 
+// A NaN becomes quiet on its way to double, whatever the processor does.
+inline double inDouble(float x) { return std::isnan(x) ? static_cast<double>(madeQuiet(x)) : static_cast<double>(x); }
+
 // a z + b w in single: exact products in double, and the two corrections of their sum.
 inline float sumOfTwoProducts(float a, float z, float b, float w) {
-  const double p = unitProduct<double>(a, z), q = unitProduct<double>(b, w);
+  const double p = unitProduct(inDouble(a), inDouble(z)), q = unitProduct(inDouble(b), inDouble(w));
   const double s = unitSum(p, q);
   volatile double s1 = s - p, s2 = s - q;
   volatile double e1 = s1 - q, e2 = s2 - p;

@@ -252,5 +252,23 @@ TEST(FmaOfMixtures, NaNsAndInvalidOperations) {
   EXPECT_EQ(hex(fmaFtor{}(one, negativeFloat, one)), "0xFE00");
 }
 
+// Beside a quiet NaN that comes first, so that the result tells whether the other one still signalled.
+TEST(FmaOfMixtures, AFloatsNaNIsQuietInDouble) {
+  const volatile float signallingFloat =
+      std::bit_cast<float>(0xFF800002u);  // volatile: no constant, it is widened here
+  const float signalling = signallingFloat;
+  const float quiet = std::bit_cast<float>(0x7FC00001u);
+  const double quietDouble = std::bit_cast<double>(std::uint64_t{0x7FF8000020000000});  // the same
+  const fp16binary_t one{0x3C00}, quietHalf{0x7E00}, signallingHalf{0xFC01};
+  EXPECT_EQ(hex(fmaFtor{}(quiet, signalling, 1.0f)), "0x7FC00001");
+  EXPECT_EQ(hex(fmaFtor{}(quiet, 1.0f, signalling)), "0x7FC00001");
+  EXPECT_EQ(hex(fmaFtor{}(1.0f, quiet, signalling)), "0x7FC00001");
+  EXPECT_EQ(hex(fmaFtor{}(quietHalf, signalling, one)), "0x7E00");
+  EXPECT_EQ(hex(fmaFtor{}(quietDouble, signalling, 1.0)), "0x7FC00001") << "fused";
+  EXPECT_EQ(hex(fmaFtor{}(1.0, quietDouble, signalling)), "0x7FC00001") << "fused";
+  EXPECT_EQ(hex(fmaFtor{}(quiet, signallingHalf, one)), "0xFE00") << "a half's stays what it is";
+  EXPECT_EQ(hex(fmaFtor{}(quietDouble, signallingHalf, one)), "0xFE00") << "fused, a half's stays what it is";
+}
+
 }  // namespace
 }  // namespace zthalf::testing

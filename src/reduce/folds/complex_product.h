@@ -9,13 +9,14 @@
 
 namespace half_utils {
 
+using zthalf::asDouble;
 using zthalf::definedUnit;
 using zthalf::withSignFlipped;
 
 // x z + y w, none of them zero. In single: exact products in double, whose sum is made safe for the rounding to single.
 inline float sumOfProducts(float x, float z, float y, float w) {
-  const double p = definedUnit::product<double>(x, z);
-  const double q = definedUnit::product<double>(y, w);
+  const double p = definedUnit::product(asDouble(x), asDouble(z));
+  const double q = definedUnit::product(asDouble(y), asDouble(w));
   return static_cast<float>(zthalf::settled(zthalf::nudgedSum<29>(p, q), p, q));
 }
 
