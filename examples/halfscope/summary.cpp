@@ -9,7 +9,10 @@ namespace halfscope {
 
 namespace {
 
-constexpr std::size_t columnsShown = 4;
+// So many columns and findings together leave room for all else on a screen of 24 lines.
+constexpr std::size_t columnsAndFindings = 7;
+
+std::string briefName(std::string const& name) { return shortened(name, 16); }
 
 bool isLosing(columnRounding const& c) { return c.lost() > 0 || c.merged() > 0; }
 
@@ -67,12 +70,12 @@ std::vector<cell> worstRow(columnRounding const& c, columnStatistics const& mean
           valueCell(mean.singleSums.mean)};
 }
 
-section worstColumns(columnFindings const& found, std::vector<std::size_t> const& order) {
+section worstColumns(columnFindings const& found, std::vector<std::size_t> const& order, std::size_t most) {
   section s;
   s.headings = {{"", "column", "", 0},           {"", "lost to", "inf or 0", 1, true}, {"", "different", "in file", 4},
                 {"", "different", "as half", 3}, {"", "max err", "of a value", 6},     {"", "mean", "in file", 2},
                 {"", "mean", "half sums", 1},    {"", "mean", "single sums", 5}};
-  const std::size_t shown = std::min(columnsShown, order.size());
+  const std::size_t shown = std::min(most, order.size());
   for (std::size_t i = 0; i < shown; ++i)
     s.rows.push_back(worstRow(found.rounding[order[i]], found.statistics[order[i]]));
   const auto isLost = [](auto const& row) { return row[1].text != "0"; };
@@ -98,13 +101,14 @@ std::string rangeText(std::vector<columnRounding> const& columns) {
   for (auto const& c : columns) beyond += c.beyond;
   std::string text;
   if (over.overflowed > 0)
-    addSentence(text, "Half ends at 65504, " + nameInText(over.name) + " goes from " + valueText(over.smallest) +
-                          " to " + valueText(over.largest) + '.');
+    text +=
+        briefName(over.name) + " reaches " + valueText(-over.smallest > over.largest ? over.smallest : over.largest);
   if (under.vanished > 0)
-    addSentence(text, "Half begins at 5.96e-08: " + someOf(under.vanished, under.values) + " of " +
-                          nameInText(under.name) + (under.vanished == 1 ? " becomes" : " become") + " zero.");
+    text += (text.empty() ? "" : ", ") + someOf(under.vanished, under.values) + " of " + briefName(under.name) +
+            (under.vanished == 1 ? " becomes zero" : " become zero");
+  if (!text.empty()) text = "Half goes from 5.96e-08 to 65504: " + text + '.';
   if (beyond > 0)
-    addSentence(text, countText(beyond) + (beyond == 1 ? " number is" : " numbers are") + " beyond double as well.");
+    addSentence(text, countText(beyond) + (beyond == 1 ? " number is" : " numbers are") + " beyond double.");
   return text;
 }
 
@@ -117,8 +121,8 @@ std::string digitsText(std::vector<columnRounding> const& columns) {
   };
   auto const& worst = worstBy(columns, rank);
   if (rank(worst) == 0) return "";
-  return nameInText(worst.name) + " is off by up to " + valueText(worst.largestError) +
-         ": among its largest values halves are " + valueText(worst.spacing) + " apart.";
+  return briefName(worst.name) + " is off by up to " + valueText(worst.largestError) + ", among halves that are " +
+         valueText(worst.spacing) + " apart.";
 }
 
 std::string differencesText(std::vector<columnAnomalies> const& columns) {
@@ -132,11 +136,11 @@ std::string differencesText(std::vector<columnAnomalies> const& columns) {
   }
   if (worst == nullptr) return "";
   if (worst->typicalUlps > 0.5)
-    return nameInText(worst->name) + " minus its mean, in half, is off by up to " + valueText(worst->largestError) +
+    return briefName(worst->name) + " minus its mean, in half, is off by up to " + valueText(worst->largestError) +
            ". Subtract first, then round.";
   return "Value minus mean, in half, is the nearest half for " +
          (nearest == kept ? std::string("all") : shareText(nearest, kept) + '%') +
-         (kept < values ? " of the differences that stay finite." : " of the values.");
+         (kept < values ? " of the finite differences." : " of the values.");
 }
 
 // Mixed precision in a few numbers: the same halves, summed in three types.
@@ -150,9 +154,9 @@ std::string accumulatorsText(std::vector<columnStatistics> const& columns) {
   if (rank(worst) < 0) return "";
   const auto result = [](sumResult const& r) {
     if (!std::isfinite(r.mean)) return valueText(r.mean);
-    return valueText(r.mean) + (r.ulps == 0 ? " (exact)" : " (off by " + ulpText(r.ulps) + " ulp)");
+    return valueText(r.mean) + (r.ulps == 0 ? " (exact)" : " (" + ulpText(r.ulps) + " ulp off)");
   };
-  return "The mean of " + nameInText(worst.name) + " is " + valueText(worst.mean) + ". With sums in half it becomes " +
+  return "The mean of " + briefName(worst.name) + " is " + valueText(worst.mean) + ". With sums in half it becomes " +
          result(worst.halfSums) + ", in single " + result(worst.singleSums) + '.';
 }
 
@@ -169,12 +173,12 @@ summary summaryOf(columnFindings const& found) {
   auto const& worst = found.rounding[order[0]];
   if (s.losing > 0) s.worst = worst.name;
   s.verdict = verdictOf(s, found.rounding, worst);
-  s.columns = worstColumns(found, order);
   for (finding const& f : {finding{"range", rangeText(found.rounding)}, finding{"digits", digitsText(found.rounding)},
                            finding{"differences", differencesText(found.anomalies)},
                            finding{"accumulators", accumulatorsText(found.statistics)}}) {
     if (!f.text.empty()) s.findings.push_back(f);
   }
+  s.columns = worstColumns(found, order, columnsAndFindings - s.findings.size());
   return s;
 }
 
