@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
+#include <mutex>
 
 #include "utf8.h"
 
@@ -23,6 +24,7 @@ struct line {
 };
 
 line shown;
+std::mutex one;  // thread at a time
 
 // Spaces and not an escape sequence take the rest of an older text away: any terminal understands them.
 void write(std::string const& text) {
@@ -36,7 +38,9 @@ void write(std::string const& text) {
 }  // namespace
 
 void show(std::string const& what, std::size_t done, std::size_t whole) {
-  if (!shown.wanted || steady::now() < shown.next) return;
+  if (!shown.wanted) return;
+  const std::lock_guard guard(one);
+  if (steady::now() < shown.next) return;
   shown.next = steady::now() + pause;
   const std::string amount =
       whole == 0 ? std::to_string(done >> 20) + " MB" : std::to_string(100 * std::min(done, whole) / whole) + " %";

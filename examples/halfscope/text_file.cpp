@@ -57,15 +57,17 @@ std::string inHex(char const* format, std::uint32_t number) {
   return text;
 }
 
-bool isPlain(unsigned char byte) {
-  return (byte >= 0x20 && byte < 0x7F) || byte == '\t' || byte == '\n' || byte == '\r';
+// Whether a byte is a character that any text may have; of two values so that many can be looked at in one go.
+unsigned char isPlain(unsigned char byte) {
+  const bool isPrintable = static_cast<unsigned char>(byte - 0x20) < 0x5F;
+  return static_cast<unsigned char>(isPrintable | (byte == '\t') | (byte == '\n') | (byte == '\r'));
 }
 
 // Whether all of a block is what almost all of any table is. No early end: so the loop runs in vector lanes.
 bool isPlain(std::string_view block) {
-  bool all = true;
+  unsigned char all = 1;
   for (const char c : block) all &= isPlain(static_cast<unsigned char>(c));
-  return all;
+  return all != 0;
 }
 
 // Control characters are refused for two reasons: a file that has them is hardly a table, and column names reach the
@@ -86,7 +88,7 @@ void expectText(textFile const& file) {
       if (c == malformedUtf8)
         throw inputError(file.name, locate(text, start),
                          "expected UTF-8 text, found the byte " + inHex("0x%02X", byte));
-      if (!isPlain(byte) && c <= 0x9F)
+      if (isPlain(byte) == 0 && c <= 0x9F)
         throw inputError(file.name, locate(text, start),
                          "expected text, found the control character " + inHex("U+%04X", c));
     }

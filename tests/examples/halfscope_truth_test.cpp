@@ -9,7 +9,7 @@ using namespace examples;
 
 // Line breaks are where the width wants them.
 std::string onOneLine(std::string text) {
-  for (std::size_t i = 0; (i = text.find("\n  ", i)) != std::string::npos;) text.replace(i, 3, " ");
+  for (std::size_t i = 0; (i = text.find("\n  ", i)) != std::string::npos;) text.erase(i, 2);
   return text;
 }
 

@@ -8,16 +8,16 @@
 namespace halfscope {
 
 double meanOf(double const* value, std::size_t rows) {
-  double count = 0;
-  double sum = 0;
-  double sumOfShares = 0;  // cannot overflow, but is rounded more often
-  for (std::size_t i = 0; i < rows; ++i) count += isInRange(value[i]);
+  double count = 0, sum = 0;
   for (std::size_t i = 0; i < rows; ++i) {
-    if (!isInRange(value[i])) continue;
-    sum += value[i];
-    sumOfShares += value[i] / count;
+    count += isInRange(value[i]);
+    sum += isInRange(value[i]) ? value[i] : 0.0;
   }
-  return count == 0 ? 0.0 : std::isfinite(sum) ? sum / count : sumOfShares;
+  if (count == 0) return 0;
+  if (std::isfinite(sum)) return sum / count;
+  double sumOfShares = 0;  // cannot overflow, but is rounded more often
+  for (std::size_t i = 0; i < rows; ++i) sumOfShares += isInRange(value[i]) ? value[i] / count : 0.0;
+  return sumOfShares;
 }
 
 std::vector<double> meansOf(table const& t) {
