@@ -1,6 +1,8 @@
-// What is wrong with an input and where: the one exception that the program reports to its user.
+// What the program reports to its user in place of a result: what is wrong with an input and where, or that the memory
+// does not suffice for it.
 #pragma once
 
+#include <cstddef>
 #include <stdexcept>
 #include <string>
 
@@ -18,6 +20,13 @@ class inputError : public std::runtime_error {
   inputError(std::string const& source, position where, std::string const& what)
       : std::runtime_error(source + ':' + std::to_string(where.line) + ':' + std::to_string(where.column) + ": " +
                            what) {}
+};
+
+class memoryError : public std::runtime_error {
+ public:
+  memoryError(std::string const& source, std::size_t bytes)
+      : std::runtime_error("not enough memory for " + source + ": about " + std::to_string((bytes >> 20) + 1) +
+                           " MB needed") {}
 };
 
 }  // namespace halfscope

@@ -107,6 +107,22 @@ void writeSection(jsonWriter& json, section const& s) {
   json.close('}');
 }
 
+void writeSummary(jsonWriter& json, summary const& s) {
+  json.key("summary");
+  json.open('{');
+  member(json, "losing_column_count", s.losing);
+  member(json, "rounded_column_count", s.rounded);
+  member(json, "exact_column_count", s.exact);
+  json.key("worst_column");
+  if (s.worst.empty())
+    json.write(std::monostate{});
+  else
+    json.write(s.worst);
+  member(json, "verdict", s.verdict);
+  for (finding const& f : s.findings) member(json, f.key, f.text);
+  json.close('}');
+}
+
 void writeFile(jsonWriter& json, fileReport const& file) {
   json.open('{');
   member(json, "file", file.name);
@@ -120,6 +136,7 @@ void writeFile(jsonWriter& json, fileReport const& file) {
     json.close('}');
   }
   json.close(']');
+  writeSummary(json, file.inShort);
   for (section const& s : file.sections) writeSection(json, s);
   json.close('}');
 }
@@ -129,6 +146,8 @@ void writeFile(jsonWriter& json, fileReport const& file) {
 std::string jsonReport(report const& r) {
   jsonWriter json;
   json.open('{');
+  member(json, "format", reportFormat);
+  member(json, "halfscope", std::string(HALFSCOPE_VERSION));
   json.key("files");
   json.open('[');
   for (fileReport const& file : r.files) writeFile(json, file);

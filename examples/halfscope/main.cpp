@@ -1,11 +1,16 @@
 // halfscope: what half precision does to the numbers of CSV files.
+#include <algorithm>
 #include <cstdio>
 #include <exception>
+#include <functional>
+#include <future>
+#include <new>
 #include <string>
 #include <utility>
 
 #include "json_report.h"
 #include "options.h"
+#include "progress.h"
 #include "steps/steps.h"
 #include "text_report.h"
 #include "utf8.h"
@@ -27,7 +32,7 @@ std::vector<table> readTables(std::vector<std::string> const& paths) {
 
 // The selected columns of all tables; a table that has none of them is left out, a column that no table has is an
 // error.
-std::vector<table> select(std::vector<table> tables, std::vector<std::string> const& names) {
+std::vector<table> select(std::vector<table> const& tables, std::vector<std::string> const& names) {
   std::vector<table> selected;
   for (table const& t : tables) {
     if (auto part = withColumns(t, names)) selected.push_back(std::move(*part));
@@ -35,32 +40,58 @@ std::vector<table> select(std::vector<table> tables, std::vector<std::string> co
   for (std::string const& name : names) {
     bool found = false;
     for (table const& t : selected)
-      for (std::string const& column : t.columnNames) found = found || column == name;
+      for (numericColumn const& c : t.columns) found = found || c.name == name;
     if (found) continue;
     std::string known;
     for (table const& t : tables)
-      for (std::string const& column : t.columnNames) known += (known.empty() ? "" : ", ") + shortened(column, 24);
+      for (numericColumn const& c : t.columns) known += (known.empty() ? "" : ", ") + shortened(c.name, 24);
     throw usageError("no file has a column '" + shortened(name, 32) + "'; there are: " + known);
   }
   return selected;
 }
 
-report examine(options const& chosen) {
-  std::vector<table> tables = readTables(chosen.files);
-  if (!chosen.columns.empty()) tables = select(std::move(tables), chosen.columns);
+fileReport examine(table const& t, bool all) {
+  // The three side by side where threads can be had, as the standard library sees fit.
+  auto rounding = std::async(roundingOf, std::cref(t));
+  auto anomalies = std::async(anomaliesOf, std::cref(t));
+  columnFindings found;
+  found.statistics = statisticsOf(t);
+  found.rounding = rounding.get();
+  found.anomalies = anomalies.get();
+  fileReport file{t.name, t.rows, t.columns.size(), t.skipped, summaryOf(found), {}};
+  if (all)
+    file.sections = {roundingSection(found.rounding), anomalySection(t, found.anomalies), mixedStep(t), cyclesStep(t),
+                     statisticsSection(found.statistics)};
+  return file;
+}
 
-  report result;
+// The numbers and about a hundred bytes for each row, of one column at a time.
+std::size_t memoryFor(std::vector<table> const& tables) {
+  std::size_t numbers = 0, rows = 0;
   for (table const& t : tables) {
-    fileReport file{t.name, t.values.rows, t.values.columns, t.skipped, {}};
-    for (auto const& step : steps) file.sections.push_back(step(t));
-    result.files.push_back(std::move(file));
+    numbers += t.rows * t.columns.size();
+    rows = std::max(rows, t.rows);
   }
-  if (chosen.speed) {
-    table const* largest = &tables[0];
-    for (table const& t : tables) {
-      if (t.values.columns > largest->values.columns) largest = &t;
+  return numbers * sizeof(double) + 100 * rows;
+}
+
+report examine(options const& chosen) {
+  const bool all = chosen.all || chosen.json;
+  std::vector<table> tables = readTables(chosen.files);
+  report result;
+  try {
+    if (!chosen.columns.empty()) tables = select(tables, chosen.columns);
+    for (table const& t : tables) result.files.push_back(examine(t, all));
+    if (all && chosen.speed) {
+      table const* largest = &tables[0];
+      for (table const& t : tables) {
+        if (t.columns.size() > largest->columns.size()) largest = &t;
+      }
+      result.speed = speedStep(*largest);
     }
-    result.speed = speedStep(*largest);
+  } catch (std::bad_alloc const&) {
+    throw memoryError(tables.size() == 1 ? tables[0].name : std::to_string(tables.size()) + " files",
+                      memoryFor(tables));
   }
   return result;
 }
@@ -75,7 +106,9 @@ int write(std::string const& text) {
 int run(int count, char** arguments) {
   const options chosen = parseOptions(count, arguments);
   if (chosen.help) return write(helpText());
+  if (chosen.version) return write(versionText());
   const report result = examine(chosen);
+  progress::clear();
   return write(chosen.json ? jsonReport(result) : textReport(result, standardOutput()));
 }
 
@@ -84,16 +117,20 @@ int run(int count, char** arguments) {
 }  // namespace halfscope
 
 int main(int count, char** arguments) {
+  const auto refuse = [](int status, char const* what, char const* more) {
+    halfscope::progress::clear();
+    std::fprintf(stderr, "halfscope: %s\n%s", what, more);
+    return status;
+  };
   try {
     return halfscope::run(count, arguments);
   } catch (halfscope::usageError const& error) {
-    std::fprintf(stderr, "halfscope: %s\nTry --help.\n", error.what());
-    return 2;
+    return refuse(2, error.what(), "Try --help.\n");
   } catch (halfscope::inputError const& error) {
-    std::fprintf(stderr, "halfscope: %s\n", error.what());
-    return 2;
+    return refuse(2, error.what(), "");
+  } catch (std::bad_alloc const&) {
+    return refuse(1, "not enough memory for the report", "");
   } catch (std::exception const& error) {
-    std::fprintf(stderr, "halfscope: %s\n", error.what());
-    return 1;
+    return refuse(1, error.what(), "");
   }
 }

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "section.h"
+#include "summary.h"
 #include "table.h"
 
 namespace halfscope {
@@ -15,7 +16,8 @@ struct fileReport {
   std::size_t rows;
   std::size_t columns;
   std::vector<skippedColumn> skipped;
-  std::vector<section> sections;
+  summary inShort;
+  std::vector<section> sections;  // none where only the summary is wanted
 };
 
 struct report {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <limits>
 
 namespace halfscope {
 
@@ -38,10 +39,19 @@ std::string shareText(long long count, long long whole) {
   return percent > 99.9 ? ">99.9" : percent < 0.1 ? "<0.1" : decimalText(percent, 1);
 }
 
+// The last doubles on either side stand for all numbers beyond them as well; what is said is true of both.
+std::string endOfDoubleText(double value) {
+  using limits = std::numeric_limits<double>;
+  if (std::abs(value) == limits::max()) return value < 0 ? "<-1.79e+308" : ">1.79e+308";
+  if (std::abs(value) == limits::denorm_min()) return value < 0 ? ">-4.95e-324" : "<4.95e-324";
+  return "";
+}
+
 // Four significant digits, whole numbers in full; trailing zeros say nothing.
 std::string valueText(double value) {
   if (!std::isfinite(value)) return specialText(value);
   const double magnitude = std::abs(value);
+  if (const std::string end = endOfDoubleText(value); !end.empty()) return end;
   if (value == std::trunc(value) && magnitude < 1e9) return digits(value + 0.0, std::chars_format::fixed, 0);
   if (magnitude < 1e-4 || magnitude >= 1e6) return digits(value, std::chars_format::scientific, 2);
   const int power = static_cast<int>(std::floor(std::log10(magnitude)));

@@ -1,8 +1,7 @@
 #include "table.h"
 
 #include <algorithm>
-#include <cmath>
-#include <limits>
+#include <new>
 
 #include "csv_reader.h"
 #include "number.h"
@@ -12,29 +11,30 @@ namespace halfscope {
 
 namespace {
 
-constexpr double missingValue = std::numeric_limits<double>::quiet_NaN();
+constexpr std::size_t moderate = std::size_t{1} << 18;  // elements of a matrix
 
-std::string quoted(std::string const& text) { return '\'' + shortened(text, 32) + '\''; }
+std::string quoted(std::string_view text) { return '\'' + shortened(text, 32) + '\''; }
 
-struct growingColumn {
+struct growingColumn : numericColumn {
   enum class kind { undecided, numeric, text };
 
-  std::string name;
-  kind is = kind::undecided;
-  std::vector<double> values;  // of a numeric column, or the missing ones of an undecided one
+  kind is = kind::undecided;  // the values of an undecided one are missing ones
 
-  void add(csvReader const& reader, field const& f) {
+  void add(csvReader const& reader, field const& f, std::size_t rowsAtMost) {
     if (is == kind::text) return;
-    if (isMissing(f.text)) {
-      values.push_back(missingValue);
+    const reading r = readCell(f.text);
+    if (is == kind::undecided && r.is != reading::kind::missing)
+      is = r.is == reading::kind::number ? kind::numeric : kind::text;
+    if (r.is == reading::kind::text) {
+      if (is == kind::numeric)
+        reader.fail(f.offset, "expected a number, or nothing for a missing value, in the numeric column " +
+                                  quoted(name) + ", found " + quoted(f.text));
+      values = {};
       return;
     }
-    const auto value = parseNumber(f.text);
-    if (!value && is == kind::numeric)
-      reader.fail(f.offset, "expected a number, or nothing for a missing value, in the numeric column " + quoted(name) +
-                                ", found " + quoted(f.text));
-    is = value ? kind::numeric : kind::text;
-    if (value) values.push_back(*value);
+    if (values.empty()) values.reserve(rowsAtMost);  // growing would need more than twice the room for a moment
+    values.push_back(r.value);
+    beyond += r.beyond;
   }
 };
 
@@ -42,32 +42,45 @@ std::vector<growingColumn> readHeader(csvReader& reader) {
   record header;
   while (reader.next(header) && isBlankLine(header)) continue;
   if (header.empty() || isBlankLine(header)) reader.fail(0, "expected a line of column names, found an empty file");
-  const bool onlyNumbers = std::all_of(
-      header.begin(), header.end(), [](field const& f) { return parseNumber(f.text).has_value() || f.text.empty(); });
-  const bool anyName = std::any_of(header.begin(), header.end(), [](field const& f) { return !f.text.empty(); });
-  if (onlyNumbers && anyName) reader.fail(header[0].offset, "expected a line of column names, found only numbers");
+  const auto isName = [](field const& f) { return readCell(f.text).is == reading::kind::text || f.text == "NA"; };
+  const auto isSomething = [](field const& f) { return !f.text.empty(); };
+  if (std::none_of(header.begin(), header.end(), isName) && std::any_of(header.begin(), header.end(), isSomething))
+    reader.fail(header[0].offset, "expected a line of column names, found only numbers");
   std::vector<growingColumn> columns(header.size());
   for (std::size_t j = 0; j < header.size(); ++j)
-    columns[j].name = header[j].text.empty() ? "column " + std::to_string(j + 1) : header[j].text;
+    columns[j].name = header[j].text.empty() ? "column " + std::to_string(j + 1) : std::string(header[j].text);
   return columns;
 }
 
-void addRow(csvReader const& reader, record const& row, std::vector<growingColumn>& columns) {
+// Where a single column was found because something else than commas is between the names.
+bool hasOtherSeparator(std::vector<growingColumn> const& columns) {
+  return columns.size() == 1 && columns[0].name.find_first_of(";\t|") != std::string::npos;
+}
+
+void addRow(csvReader const& reader, record const& row, std::vector<growingColumn>& columns, std::size_t rowsAtMost) {
   if (row.size() != columns.size()) {
     const bool tooMany = row.size() > columns.size();
     const std::string expected = std::to_string(columns.size()) + (columns.size() == 1 ? " field" : " fields");
+    const bool semicolons = tooMany && hasOtherSeparator(columns) && columns[0].name.find(';') != std::string::npos;
     reader.fail(tooMany ? row[columns.size()].offset : reader.recordEnd(),
-                "expected " + expected + " as in the line of column names, found " + std::to_string(row.size()));
+                "expected " + expected + " as in the line of column names, found " + std::to_string(row.size()) +
+                    (semicolons ? semicolonHint : ""));
   }
-  for (std::size_t j = 0; j < row.size(); ++j) columns[j].add(reader, row[j]);
+  for (std::size_t j = 0; j < row.size(); ++j) columns[j].add(reader, row[j], rowsAtMost);
 }
 
-}  // namespace
-
-table readTable(textFile const& file) {
-  csvReader reader(file);
-  std::vector<growingColumn> columns = readHeader(reader);
+struct grownTable {
+  std::vector<growingColumn> columns;
   std::size_t rows = 0;
+};
+
+grownTable readRows(csvReader& reader, textFile const& file) {
+  grownTable t{readHeader(reader), 0};
+  // About as many rows as line ends of either kind, and no more than fit with all their commas.
+  const auto count = [&](char c) {
+    return static_cast<std::size_t>(std::count(file.text.begin(), file.text.end(), c));
+  };
+  const std::size_t rowsAtMost = std::min(std::max(count('\n'), count('\r')), file.text.size() / t.columns.size()) + 1;
   std::size_t blankLines = 0;  // not yet followed by a row
   record row;
   const record missing(1);
@@ -77,32 +90,44 @@ table readTable(textFile const& file) {
       continue;
     }
     // With one column, a blank line between rows can only be a missing value.
-    for (; columns.size() == 1 && blankLines > 0; --blankLines, ++rows) addRow(reader, missing, columns);
+    for (; t.columns.size() == 1 && blankLines > 0; --blankLines, ++t.rows)
+      addRow(reader, missing, t.columns, rowsAtMost);
     blankLines = 0;
-    addRow(reader, row, columns);
-    ++rows;
+    addRow(reader, row, t.columns, rowsAtMost);
+    if (++t.rows % 4096 == 0)
+      progress::show("taking in the numbers of " + file.name, reader.recordEnd(), file.text.size());
   }
-  if (rows == 0) reader.fail(file.text.size(), "expected at least one row of values after the column names");
+  if (t.rows == 0) reader.fail(file.text.size(), "expected at least one row of values after the column names");
+  return t;
+}
 
-  table result;
-  result.name = file.name;
-  for (growingColumn const& c : columns) {
+// The text and a double for each field, at most.
+std::size_t memoryFor(std::string const& text) {
+  const auto fields =
+      std::count_if(text.begin(), text.end(), [](char c) { return c == ',' || c == '\n' || c == '\r'; });
+  return text.size() + static_cast<std::size_t>(fields) * sizeof(double);
+}
+
+}  // namespace
+
+table readTable(textFile file) {
+  csvReader reader(file);
+  grownTable grown;
+  try {
+    grown = readRows(reader, file);
+  } catch (std::bad_alloc const&) {
+    throw memoryError(file.name, memoryFor(file.text));
+  }
+  table result{file.name, grown.rows, {}, {}};
+  for (growingColumn& c : grown.columns) {
     if (c.is == growingColumn::kind::numeric)
-      result.columnNames.push_back(c.name);
+      result.columns.push_back(std::move(c));
     else
       result.skipped.push_back({c.name, c.is == growingColumn::kind::text ? "text" : "no values"});
   }
-  if (result.columnNames.empty()) {
-    const bool otherSeparator = columns.size() == 1 && columns[0].name.find_first_of(";\t|") != std::string::npos;
+  if (result.columns.empty())
     reader.fail(0, std::string("expected at least one column of numbers, found none") +
-                       (otherSeparator ? "; columns must be separated by commas" : ""));
-  }
-  result.values = matrix(rows, result.columnNames.size());
-  std::size_t j = 0;
-  for (growingColumn& c : columns) {
-    if (c.is == growingColumn::kind::numeric) std::copy(c.values.begin(), c.values.end(), result.values.column(j++));
-    c.values = {};
-  }
+                       (hasOtherSeparator(grown.columns) ? "; columns must be separated by commas" : ""));
   return result;
 }
 
@@ -115,17 +140,30 @@ std::optional<table> withColumns(table const& t, std::vector<std::string> const&
       throw inputError(t.name, "expected a numeric column, but " + quoted(s.name) + " has " +
                                    (s.reason == "text" ? "text in it" : "no values"));
   }
-  table result;
-  result.name = t.name;
-  for (std::size_t j = 0; j < t.columnNames.size(); ++j) {
-    if (!wanted(t.columnNames[j])) continue;
-    result.columnNames.push_back(t.columnNames[j]);
-    result.values.cells.insert(result.values.cells.end(), t.values.column(j), t.values.column(j) + t.values.rows);
+  table result{t.name, t.rows, {}, {}};
+  for (numericColumn const& c : t.columns) {
+    if (wanted(c.name)) result.columns.push_back(c);
   }
-  result.values.rows = t.values.rows;
-  result.values.columns = result.columnNames.size();
-  if (result.columnNames.empty()) return std::nullopt;
+  if (result.columns.empty()) return std::nullopt;
   return result;
+}
+
+tablePart wholeColumns(table const& t, std::size_t first) {
+  const std::size_t count = std::min(t.columns.size() - first, std::max<std::size_t>(1, moderate / t.rows));
+  tablePart part{t.columns.data() + first, 0, true, matrix(t.rows, count)};
+  for (std::size_t j = 0; j < count; ++j)
+    std::copy(part.columns[j].values.begin(), part.columns[j].values.end(), part.values.column(j));
+  return part;
+}
+
+tablePart partOf(table const& t, std::size_t firstColumn, std::size_t firstRow) {
+  constexpr std::size_t rowsAtMost = std::size_t{1} << 14;  // with what is made of them, they stay in a cache
+  if (t.rows <= moderate) return wholeColumns(t, firstColumn);
+  const std::size_t rows = std::min(rowsAtMost, t.rows - firstRow);
+  double const* const values = t.columns[firstColumn].values.data() + firstRow;
+  tablePart part{t.columns.data() + firstColumn, firstRow, firstRow + rows == t.rows, matrix(rows, 1)};
+  std::copy(values, values + rows, part.values.cells.begin());
+  return part;
 }
 
 }  // namespace halfscope

@@ -25,20 +25,44 @@ std::string counted(std::size_t count, std::string const& noun) {
   return countText(static_cast<long long>(count)) + ' ' + noun + (count == 1 ? "" : "s");
 }
 
+// The first word of a finding stands beside its lines, the longest one being "accumulators".
+std::string findingText(finding const& f, terminal const& out) {
+  constexpr std::size_t margin = 2, indent = 16;
+  std::string lines = wrapped(f.text, indent, out);
+  return lines.replace(margin, f.key.size(), f.key);
+}
+
+std::string summaryText(summary const& s, terminal const& out) {
+  std::string text = '\n' + emphasised(wrapped(s.verdict, 2, out), emphasis::attention, out) + '\n' +
+                     textTable(s.columns, out, false) +
+                     emphasised(wrapped(s.columns.notice, 2, out), emphasis::faint, out) + '\n';
+  for (finding const& f : s.findings) text += findingText(f, out);
+  return text + '\n';
+}
+
 }  // namespace
 
 std::string textReport(report const& r, terminal const& out) {
   std::string text;
+  bool onlySummaries = true;
   for (fileReport const& file : r.files) {
     const std::string title =
         file.name + ": " + counted(file.rows, "row") + ", " + counted(file.columns, "numeric column");
     text += emphasised(wrapped(title, 0, out), emphasis::title, out);
     text += std::string(std::min(displayWidth(title), out.width), '=') + '\n';
     if (!file.skipped.empty()) text += wrapped(skippedText(file.skipped), 0, out);
-    text += '\n';
+    if (file.sections.empty())
+      text += summaryText(file.inShort, out);
+    else
+      text += '\n';
     for (section const& s : file.sections) text += sectionText(s, out);
+    onlySummaries = onlySummaries && file.sections.empty();
   }
   if (r.speed) text += sectionText(*r.speed, out);
+  if (onlySummaries)
+    text += emphasised(wrapped("--all shows every column and step; --help explains the words.", 0, out),
+                       emphasis::faint, out) +
+            '\n';
   text.pop_back();  // the blank line after the last section
   return text;
 }

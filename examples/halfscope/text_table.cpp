@@ -94,7 +94,7 @@ std::string emphasised(std::string const& text, emphasis how, terminal const& ou
   return codes[static_cast<int>(how)] + text + "\x1b[0m";
 }
 
-std::string textTable(section const& s, terminal const& out) {
+std::string textTable(section const& s, terminal const& out, bool tellsOmissions) {
   std::vector<tableColumn> columns;
   for (std::size_t j = 0; j < s.headings.size(); ++j) columns.push_back(columnOf(s, j));
   fit(columns, out.width);
@@ -128,6 +128,7 @@ std::string textTable(section const& s, terminal const& out) {
     }
     text += withoutTrailingSpace(line) + '\n';
   }
+  if (!tellsOmissions) return text;
   if (!quiet.empty()) text += emphasised(wrapped("all 0 and not shown: " + quiet, margin, out), emphasis::faint, out);
   if (!others.empty()) text += emphasised(wrapped("no room for: " + others, margin, out), emphasis::faint, out);
   return text;

@@ -33,13 +33,16 @@ TEST(Json, EveryFigureAgreesWithAnotherComputation) {
 TEST(Json, FiguresOfOddTablesAgreeToo) {
   const std::string checker = here / "check_report.py";
   for (std::string const csv : {
-           "a,b\n1,-0\n",                                               // one row
-           "a,b\n60000,1\nNA,2\n",                                      // two, and a single value
-           "a,b,c\n1,0.1,3\n2,0.2,3\n3,0.3,3\n4,0.4,3\n",               // lines, exact and rounded
-           "a,b\n-0,0\n0,-0\n-0,NA\n",                                  // zeros of both signs
-           "a,b\ninf,65504\n-inf,65519\n1,65520\n2,-65504\n3,1e308\n",  // infinities, and the end of half
-           "a,b\n1e-7,1\n-1e-7,\n1e-9,\n2e-7,5\n0,1\n",                 // what is left is almost nothing
-           "a,b\n3e4,9\n-6e4,1\n6e4,9\n-6e4,1\n6e4,8\n-6e4,1\n",        // deviations larger than their values
+           "a,b\n1,-0\n",                                                         // one row
+           "a,b\n60000,1\nNA,2\n",                                                // two, and a single value
+           "a,b,c\n1,0.1,3\n2,0.2,3\n3,0.3,3\n4,0.4,3\n",                         // lines, exact and rounded
+           "a,b\n-0,0\n0,-0\n-0,NA\n",                                            // zeros of both signs
+           "a,b\ninf,65504\n-inf,65519\n1,65520\n2,-65504\n3,1e308\n",            // infinities, and the end of half
+           "a,b\n1e-7,1\n-1e-7,\n1e-9,\n2e-7,5\n0,1\n",                           // what is left is almost nothing
+           "a,b\n1e400,0.500000000000000000001\n1,-0.49999999999999999999999\n",  // not halves, though it seems so
+           "a,b\n-1e400,5.9604644775390625e-8\n1,5.9604644775390624e-8\n",        // the same, and one that is
+           "a,b\n1e400,1e-400\n1e500,-1e-500\ninf,0\n-2e310,1e-330\n",            // beyond double, and ends
+           "a,b\n3e4,9\n-6e4,1\n6e4,9\n-6e4,1\n6e4,8\n-6e4,1\n",                  // deviations larger than their values
        }) {
     const temporaryFolder folder;
     const std::string table = folder / "table.csv";
@@ -47,6 +50,16 @@ TEST(Json, FiguresOfOddTablesAgreeToo) {
     const auto result = run("halfscope", {"--json", "--no-speed", table});
     EXPECT_EQ(result.status, 0) << result.err;
     expectPythonAgrees({checker}, result.out, {table});
+  }
+}
+
+TEST(Json, IsWhatTheSchemaDescribes) {
+  const std::string checker = here / "check_schema.py", schema = here / "../../docs/halfscope-report.schema.json";
+  const std::string odd = "t,a,b,c,d,e\nx,1e400,1,inf,,1e-400\ny,2,1,NaN,,7\n";
+  for (auto const& report : {run("halfscope", {"--json"}), look(contentsOf(here / "tables/readings.csv"), {"--json"}),
+                             look(odd, {"--json"}), look("a\n0\n", {"--json"})}) {
+    EXPECT_EQ(report.status, 0) << report.err;
+    expectPythonAgrees({checker, schema}, report.out);
   }
 }
 

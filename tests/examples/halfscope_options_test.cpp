@@ -38,13 +38,19 @@ TEST(Halfscope, HelpNamesEveryOption) {
   const auto result = run("halfscope", {"--help"});
   EXPECT_EQ(result.status, 0);
   EXPECT_EQ(result.err, "");
-  for (std::string const option : {"--columns", "--json", "--no-speed", "--help"})
+  for (std::string const option : {"--all", "--columns", "--json", "--no-speed", "--version", "--help"})
     EXPECT_NE(result.out.find("  " + option), std::string::npos) << option;
   EXPECT_EQ(result.out, run("halfscope", {"-h"}).out);
 }
 
+TEST(Halfscope, TellsItsVersion) {
+  const auto result = run("halfscope", {"--version"});
+  EXPECT_EQ(result.status, 0);
+  EXPECT_EQ(result.out, "halfscope " EXAMPLES_VERSION "\n");
+}
+
 TEST(Halfscope, SaysSoWhenItCannotWrite) {
-  for (std::string const arguments : {" --no-speed", " --help"}) {  // more and less than a buffer
+  for (std::string const arguments : {" --all --no-speed", " --help"}) {  // more and less than a buffer
     const examples::temporaryFolder folder;
     std::string command = examples::commandOf("halfscope");
     command.append(arguments).append(" >/dev/full 2>").append(quotedForShell((folder / "err").string()));

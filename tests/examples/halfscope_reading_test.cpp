@@ -25,20 +25,13 @@ TEST(Reading, SpellingDoesNotMatter) {
            {"words", "a,b\n1,2.5\n-300,NaN\n0.001,Infinity\n"},
            {"missing", "a,b\n1,2.5\n-300,NA\n0.001,INF\n"},
            {"blank lines", "\n\na,b\n\n1,2.5\n-300,\n  \n0.001,inf\n\n\n"},
-           {"beyond double", "a,b\n1,2.5\n-300,\n0.001,1e999999999999\n"},
            {"many digits",
-            "a,b\n1.0000000000000000000000000000000000000000,2.5\n-300,\n0.001,1" + std::string(400, '0') + "\n"},
+            "a,b\n1.0000000000000000000000000000000000000000,25" + std::string(400, '0') + "e-401\n-300,\n0.001,inf\n"},
        }) {
     const auto result = look(text);
     EXPECT_EQ(result.status, 0) << what << ": " << result.err;
     EXPECT_EQ(result.out, plain.out) << what;
   }
-}
-
-TEST(Reading, TinyNumbersAreZeros) {
-  const auto zeros = look("a\n0\n-0\n0\n");
-  ASSERT_EQ(zeros.status, 0) << zeros.err;
-  EXPECT_EQ(look("a\n1e-400\n-1e-400\n0.000" + std::string(400, '0') + "1e3\n").out, zeros.out);
 }
 
 TEST(Reading, InASingleColumnABlankLineIsAMissingValue) {
@@ -123,7 +116,13 @@ INSTANTIATE_TEST_SUITE_P(
                 ":1:1: expected UTF-8 text, found the byte 0xFF"},
         Refusal{"only text", "a,b\nx,y\n", ":1:1: expected at least one column of numbers, found none"},
         Refusal{"semicolons", "a;b\n1;2\n",
-                ":1:1: expected at least one column of numbers, found none; columns must be separated by commas"}));
+                ":1:1: expected at least one column of numbers, found none; columns must be separated by commas"},
+        Refusal{"semicolons and decimal commas", "a;b\n1,5;2\n",
+                ":2:3: expected 1 field as in the line of column names, found 2; columns must be separated by commas "
+                "and numbers have a point: tr ',;' '.,' makes them so of decimal commas and semicolons"},
+        Refusal{"the same in quotes", "\"a\";\"b\"\n1,5;2\n",
+                ":1:4: expected a comma or the end of the line after the closing quote; columns must be separated by "
+                "commas and numbers have a point: tr ',;' '.,' makes them so of decimal commas and semicolons"}));
 
 TEST(Refused, FilesThatCannotBeRead) {
   const examples::temporaryFolder folder;

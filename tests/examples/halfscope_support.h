@@ -14,14 +14,14 @@ inline const std::string tables = EXAMPLES_TABLES;
 
 inline std::string columnsAre(int width) { return std::string("COLUMNS=").append(std::to_string(width)); }
 
-// A report that was looked at and kept, of a table ("default": the program's own ones) at a width.
+// A report that was looked at and kept, of tables ("default": the program's own ones, "all": with --all) at a width.
 inline std::string expectedText(std::string name, int width) {
   name.append("-").append(std::to_string(width)).append(".txt");
   return contentsOf(here / "expected" / name);
 }
 
-// The report on a text, without the measurement.
-inline outcome look(std::string const& csv, std::vector<std::string> arguments = {},
+// The report on a text, in full unless arguments say otherwise, without the measurement.
+inline outcome look(std::string const& csv, std::vector<std::string> arguments = {"--all"},
                     std::string const& environment = "") {
   arguments.insert(arguments.end(), {"--no-speed", "-"});
   return run("halfscope", arguments, {environment, csv});

@@ -30,17 +30,23 @@ class Width : public testing::TestWithParam<int> {};
 using ExpectedText = Width;
 
 TEST_P(ExpectedText, DefaultTables) {
-  const auto result = run("halfscope", {"--no-speed"}, {columnsAre(GetParam()), ""});
-  EXPECT_EQ(result.status, 0);
-  EXPECT_EQ(result.err, "");
-  EXPECT_EQ(result.out, expectedText("default", GetParam()));
+  for (auto const& [name, arguments] : std::vector<std::pair<std::string, std::vector<std::string>>>{
+           {"default", {}}, {"all", {"--all", "--no-speed"}}}) {
+    const auto result = run("halfscope", arguments, {columnsAre(GetParam()), ""});
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.err, "");
+    EXPECT_EQ(result.out, expectedText(name, GetParam()));
+  }
 }
 
 TEST_P(ExpectedText, TableWithEverythingInIt) {
-  const auto result = look(contentsOf(here / "tables/readings.csv"), {}, columnsAre(GetParam()));
-  EXPECT_EQ(result.status, 0);
-  EXPECT_EQ(result.err, "");
-  EXPECT_EQ(result.out, expectedText("readings", GetParam()));
+  for (auto const& [name, arguments] :
+       std::vector<std::pair<std::string, std::vector<std::string>>>{{"readings", {}}, {"readings-all", {"--all"}}}) {
+    const auto result = look(contentsOf(here / "tables/readings.csv"), arguments, columnsAre(GetParam()));
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.err, "");
+    EXPECT_EQ(result.out, expectedText(name, GetParam()));
+  }
 }
 
 INSTANTIATE_TEST_SUITE_P(Widths, ExpectedText, testing::Values(80, 100, 160));
@@ -49,11 +55,15 @@ using AnyWidth = Width;
 
 TEST_P(AnyWidth, HoldsEveryLine) {
   std::vector<std::string> arguments = {tables + "/elnino.csv", here / "tables/readings.csv"};
-  if (GetParam() % 2 == 1) arguments.push_back("--no-speed");
-  const auto result = run("halfscope", arguments, {columnsAre(GetParam()), ""});
+  auto result = run("halfscope", arguments, {columnsAre(GetParam()), ""});
   ASSERT_EQ(result.status, 0);
-  const auto lines = linesOf(result.out);
-  ASSERT_GT(lines.size(), 50u);
+  auto lines = linesOf(result.out);
+  ASSERT_GT(lines.size(), 30u);
+  arguments.insert(arguments.end(), {"--all", GetParam() % 2 == 1 ? "--no-speed" : "--all"});
+  result = run("halfscope", arguments, {columnsAre(GetParam()), ""});
+  ASSERT_EQ(result.status, 0);
+  for (auto const& line : linesOf(result.out)) lines.push_back(line);
+  ASSERT_GT(lines.size(), 150u);
   for (auto const& line : lines) {
     // A file's name is one word, which is not broken.
     if (line.find(".csv") != std::string::npos) continue;
@@ -64,10 +74,27 @@ TEST_P(AnyWidth, HoldsEveryLine) {
 
 INSTANTIATE_TEST_SUITE_P(Widths, AnyWidth, testing::Values(40, 41, 57, 71, 81, 99, 119, 133, 200));
 
+TEST(Summary, OfAFileFitsOnAScreen) {
+  for (std::string const file : {"elnino.csv", "co2.csv", "sunspots.csv"}) {
+    const auto result = run("halfscope", {std::string(tables).append("/").append(file)}, {columnsAre(80), ""});
+    EXPECT_EQ(result.status, 0);
+    EXPECT_LE(linesOf(result.out).size(), 24u) << result.out;
+  }
+  std::string header = "a", row = "0.1";  // many columns with all kinds of findings
+  for (int i = 0; i < 100; ++i) {
+    header.append(",a rather long name for column ").append(std::to_string(i));
+    row.append(i % 3 == 0 ? ",1e9" : i % 3 == 1 ? ",1e-9" : ",0.7");
+  }
+  const auto result = look(header.append("\n").append(row).append("\n").append(row), {}, columnsAre(80));
+  EXPECT_EQ(result.status, 0) << result.err;
+  EXPECT_LE(linesOf(result.out).size(), 24u) << result.out;
+  EXPECT_LE(linesOf(expectedText("readings", 80)).size(), 24u);
+}
+
 TEST(Halfscope, IsAHundredWideWhereThereIsNoTerminal) {
   const auto expected = expectedText("default", 100);
-  EXPECT_EQ(run("halfscope", {"--no-speed"}).out, expected);
-  EXPECT_EQ(run("halfscope", {"--no-speed"}, {"COLUMNS=wide", ""}).out, expected);
+  EXPECT_EQ(run("halfscope").out, expected);
+  EXPECT_EQ(run("halfscope", {}, {"COLUMNS=wide", ""}).out, expected);
 }
 
 // The report as it arrives on a terminal of a width.
@@ -79,7 +106,7 @@ std::string onTerminal(unsigned short width, std::string const& environment) {
   const pid_t child = forkpty(&screen, nullptr, nullptr, &size);
   if (child == 0) {
     const std::string command =
-        "exec env -u COLUMNS -u NO_COLOR " + environment + " " + examples::commandOf("halfscope") + " --no-speed";
+        "exec env -u COLUMNS -u NO_COLOR " + environment + " " + examples::commandOf("halfscope");
     execl("/bin/sh", "sh", "-c", command.c_str(), nullptr);
     _exit(127);
   }
@@ -115,11 +142,11 @@ TEST(Terminal, GetsColourAndNothingElseInAddition) {
 }
 
 TEST(Halfscope, MeasuresSpeedUnlessTold) {
-  const auto result = run("halfscope", {tables + "/co2.csv"});
+  const auto result = run("halfscope", {"--all", tables + "/co2.csv"});
   EXPECT_EQ(result.status, 0);
   EXPECT_NE(result.out.find("Speed: "), std::string::npos);
   EXPECT_NE(result.out.find("1,048,576 elements"), std::string::npos);
-  EXPECT_EQ(run("halfscope", {tables + "/co2.csv", "--no-speed"}).out.find("Speed: "), std::string::npos);
+  EXPECT_EQ(run("halfscope", {"--all", tables + "/co2.csv", "--no-speed"}).out.find("Speed: "), std::string::npos);
 }
 
 }  // namespace

@@ -1,18 +1,13 @@
 // Step 2: the deviations from each column's mean, all columns in one addition by implicit expansion, and how good they
 // are beside the same thing in double.
+#include "steps/anomalies.h"
+
 #include "half_matrix.h"
-#include "steps/deviations.h"
-#include "steps/steps.h"
 #include "words.h"
 
 namespace halfscope {
 
 namespace {
-
-struct columnAnomalies : columnDeviations {
-  double mean = 0;
-  double offset = 0;  // what was added, as a half
-};
 
 std::string notice(std::vector<columnAnomalies> const& columns) {
   std::vector<std::string> losing;
@@ -23,7 +18,7 @@ std::string notice(std::vector<columnAnomalies> const& columns) {
   for (auto const& c : columns) {
     if (c.lost > 0) losing.push_back(c.name);
     lost += c.lost;
-    kept += c.values - c.lost;
+    kept += c.kept();
     nearest += c.nearest;
     if (c.any() && (worst == nullptr || c.typicalUlps > worst->typicalUlps)) worst = &c;
   }
@@ -40,9 +35,12 @@ std::string notice(std::vector<columnAnomalies> const& columns) {
                           ulpText(worst->typicalUlps) +
                           " units in their own last place. Subtract before rounding to half where that matters.");
   else if (nearest == kept)
-    addSentence(text, "Every deviation is the nearest half to the true one.");
+    addSentence(text, lost > 0 && kept == 1 ? "The other one is the nearest half to the true one."
+                      : lost > 0            ? "All others are the nearest halves to the true ones."
+                                            : "Every deviation is the nearest half to the true one.");
   else
-    addSentence(text, shareText(nearest, kept) + "% of the deviations are the nearest halves to the true ones.");
+    addSentence(text, shareText(nearest, kept) + "% of the " + (lost > 0 ? "others" : "deviations") +
+                          " are the nearest halves to the true ones.");
   return text;
 }
 
@@ -52,8 +50,8 @@ std::vector<heading> headings() {
           {"offset", "offset", "as half", 3},
           {"minimum", "min", "result", 2},
           {"maximum", "max", "result", 2},
-          {"nearest", "nearest", "%", 1},
-          {"lost", "lost", "inf, NaN", 2, true},
+          {"nearest_count", "nearest", "%", 1},
+          {"lost_count", "lost", "inf, NaN", 2, true},
           {"largest_error", "max err", "in value", 3},
           {"typical_error_ulp", "typical err", "ulp", 1},
           {"largest_error_ulp", "max err", "ulp", 5}};
@@ -75,27 +73,33 @@ std::vector<cell> row(columnAnomalies const& c) {
 
 }  // namespace
 
-section anomalyStep(table const& t) {
-  const std::size_t rows = t.values.rows;
-  const std::size_t count = t.values.columns;
-  const matrix means = meansOf(t.values);
-  matrix offsets(1, count);
-  for (std::size_t j = 0; j < count; ++j) offsets.cells[j] = -means.cells[j];
-
-  const halfMatrix offsetsAsHalf = toHalf(offsets);
-  const halfMatrix anomalies = plusRow(toHalf(t.values), offsetsAsHalf);
-  const matrix offsetsBack = fromHalf(offsetsAsHalf);
-
+std::vector<columnAnomalies> anomaliesOf(table const& t) {
+  const std::vector<double> means = meansOf(t);
+  std::vector<double> offsets;  // as halves
+  deviationGatherer gathered;
+  forEachPart(t, "deviations of " + t.name + " in half", [&](tablePart const& part) {
+    const matrix partMeans = meansIn(part, t, means);
+    matrix partOffsets = partMeans;
+    for (double& offset : partOffsets.cells) offset = -offset;
+    const halfMatrix offsetsAsHalf = toHalf(partOffsets);
+    const halfMatrix anomalies = plusRow(toHalf(part.values), offsetsAsHalf);
+    gathered.add(part, anomalies, deviationsFrom(partMeans, part.values));
+    if (!part.hasLastRow) return;
+    for (const double offset : fromHalf(offsetsAsHalf).cells) offsets.push_back(offset);
+  });
   std::vector<columnAnomalies> columns;
-  for (columnDeviations const& c : compare(t, anomalies, deviationsFrom(means, t.values))) {
+  for (columnDeviations& c : gathered.take()) {
     const std::size_t j = columns.size();
-    columns.push_back({c, means.cells[j], offsetsBack.cells[j]});
+    columns.push_back({std::move(c), means[j], offsets[j]});
   }
+  return columns;
+}
 
-  const std::string shape = countText(static_cast<long long>(rows)) + " x " + std::to_string(count);
+section anomalySection(table const& t, std::vector<columnAnomalies> const& columns) {
+  const std::string shape = countText(static_cast<long long>(t.rows)) + " x " + std::to_string(columns.size());
   section s;
   s.key = "anomalies";
-  s.title = "Minus the column mean, in half: " + shape + " plus 1 x " + std::to_string(count);
+  s.title = "Minus the column mean, in half: " + shape + " plus 1 x " + std::to_string(columns.size());
   s.rowsKey = "columns";
   s.headings = headings();
   for (auto const& c : columns) s.rows.push_back(row(c));

@@ -15,10 +15,10 @@ namespace {
 
 // From one cycle in all rows to so many. Half a cycle in each row is not a cycle any more, and as the work is rows
 // times columns times cycles, there are fewer of them for very large tables.
-std::size_t cyclesToTry(matrix const& values) {
+std::size_t cyclesToTry(table const& t) {
   constexpr std::size_t usual = 64, fewest = 8, enoughWork = std::size_t{1} << 25;
-  const std::size_t affordable = std::max(fewest, enoughWork / values.cells.size());
-  return std::min({(values.rows - 1) / 2, usual, affordable});
+  const std::size_t affordable = std::max(fewest, enoughWork / (t.rows * t.columns.size()));
+  return std::min({(t.rows - 1) / 2, usual, affordable});
 }
 
 // For each column (down) and number of cycles (across, beginning with 1) the length of the average, which is half the
@@ -53,9 +53,8 @@ double halfAmplitude(double const* deviation, std::size_t rows, turns const& tur
   return std::hypot(real / count, imaginary / count);
 }
 
-spectra spectraOf(halfMatrix const& deviations, matrix const& exact) {
+spectra spectraOf(halfMatrix const& deviations, matrix const& exact, std::size_t most) {
   const std::size_t rows = exact.rows, columns = exact.columns;
-  const std::size_t most = cyclesToTry(exact);
   const turns turn(rows);
   const complexHalfMatrix turnAsHalf = toComplex(toHalf(turn.real), toHalf(turn.imaginary));
   complexHalfMatrix phases(rows, 1), products(rows, columns), averages(columns, most);
@@ -73,6 +72,7 @@ spectra spectraOf(halfMatrix const& deviations, matrix const& exact) {
 
 struct columnCycles {
   std::string name;
+  double trend = 0;
   bool any = false;        // a cycle in double
   std::size_t cycles = 0;  // the strongest of the column
   double rowsPerCycle = 0;
@@ -146,8 +146,10 @@ std::string agreement(std::vector<columnCycles> const& columns) {
                             : found == 1 ? " it too"
                                          : " the same cycle in all " + countText(found) + " columns that have one";
   if (same > 0)
-    addSentence(text, "Half finds" + where + ", with " + (same == 1 ? "an amplitude" : "amplitudes") + " off by " +
-                          ulpText(worst) + " ulp" + (same == 1 ? "." : " at most."));
+    addSentence(text, "Half finds" + where + ", with " +
+                          (worst == 0 ? std::string(same == 1 ? "an exact amplitude." : "exact amplitudes.")
+                                      : (same == 1 ? "an amplitude" : "amplitudes") + std::string(" off by ") +
+                                            ulpText(worst) + " ulp" + (same == 1 ? "." : " at most.")));
   if (!others.empty()) addSentence(text, "Half takes another one for the strongest in " + nameList(others) + ".");
   if (!lost.empty()) addSentence(text, "Of " + nameList(lost) + " half keeps too little to tell.");
   return text;
@@ -176,8 +178,8 @@ std::vector<heading> headings() {
           {"error_ulp", "err", "ulp", 2}};
 }
 
-std::vector<cell> row(columnCycles const& c, double trend) {
-  const cell trendCell = std::isfinite(trend) ? valueCell(trend) : noCell();
+std::vector<cell> row(columnCycles const& c) {
+  const cell trendCell = std::isfinite(c.trend) ? valueCell(c.trend) : noCell();
   if (!c.any) {
     std::vector<cell> cells(headings().size(), noCell());
     cells[0] = textCell(c.name);
@@ -198,29 +200,33 @@ std::vector<cell> row(columnCycles const& c, double trend) {
 }  // namespace
 
 section cyclesStep(table const& t) {
-  const detrended d = withoutTrends(t.values);
-  const spectra s = spectraOf(minus(toHalf(t.values), d.lines), d.deviations);
-  const matrix back = fromHalf(s.halves);
-  matrix exact = s.exact;
-  for (std::size_t k = 0; k < exact.columns; ++k) {
-    for (std::size_t j = 0; j < exact.rows; ++j) exact.column(k)[j] = std::ldexp(exact.column(k)[j], d.exponents[j]);
-  }
-  const matrix ulps = ulpDistance(s.halves, exact);
+  const std::size_t most = cyclesToTry(t);
+  std::vector<columnCycles> columns;
+  forWholeColumns(t, "cycles in " + t.name, [&](tablePart const& part) {
+    const detrended d = withoutTrends(part.values);
+    const spectra s = spectraOf(minus(toHalf(part.values), d.lines), d.deviations, most);
+    const matrix back = fromHalf(s.halves);
+    matrix exact = s.exact;
+    for (std::size_t k = 0; k < exact.columns; ++k) {
+      for (std::size_t j = 0; j < exact.rows; ++j) exact.column(k)[j] = std::ldexp(exact.column(k)[j], d.exponents[j]);
+    }
+    const matrix ulps = ulpDistance(s.halves, exact);
+    for (std::size_t j = 0; j < part.values.columns; ++j) {
+      columns.push_back(examine(j, d, s, back, ulps));
+      columns.back().name = part.columns[j].name;
+      columns.back().trend = d.trends[j];
+    }
+  });
 
-  const std::string rows = countText(static_cast<long long>(t.values.rows));
+  const std::string rows = countText(static_cast<long long>(t.rows));
   section out;
   out.key = "cycles";
-  out.title = "The strongest cycle down the rows, by complex halves: " + rows + " x " +
-              std::to_string(t.values.columns) + " times " + rows + " x 1";
+  out.title = "The strongest cycle down the rows, by complex halves: " + rows + " x " + std::to_string(columns.size()) +
+              " times " + rows + " x 1";
   out.rowsKey = "columns";
   out.headings = headings();
-  std::vector<columnCycles> columns;
-  for (std::size_t j = 0; j < t.columnNames.size(); ++j) {
-    columns.push_back(examine(j, d, s, back, ulps));
-    columns.back().name = t.columnNames[j];
-    out.rows.push_back(row(columns.back(), d.trends[j]));
-  }
-  out.notice = notice(columns, s.exact.columns);
+  for (auto const& c : columns) out.rows.push_back(row(c));
+  out.notice = notice(columns, most);
   return out;
 }
 

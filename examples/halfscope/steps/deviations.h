@@ -3,6 +3,7 @@
 
 #include <limits>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "half_matrix.h"
@@ -10,11 +11,14 @@
 
 namespace halfscope {
 
-// The mean of the values that are there and finite; 0 where none is.
+// The mean of the values that are there, finite and in the range of double; 0 where none is.
 double meanOf(double const* value, std::size_t rows);
 
-// The means of all columns, 1 by m, and the deviations from them, in double.
-matrix meansOf(matrix const& values);
+// The means of all columns of a table.
+std::vector<double> meansOf(table const& t);
+
+// The means of a part's columns, 1 by m, and the deviations from them, in double.
+matrix meansIn(tablePart const& part, table const& t, std::vector<double> const& means);
 matrix deviationsFrom(matrix const& means, matrix const& values);
 
 // Deviations of one column in half beside those in double.
@@ -29,10 +33,24 @@ struct columnDeviations {
   double typicalUlps = 0;  // the median
   double largestUlps = 0;
 
-  bool any() const { return lost < values; }
+  long long kept() const { return values - lost; }
+  bool any() const { return kept() > 0; }
 };
 
-// One for each column of the table, whose deviations are `exact` in double.
-std::vector<columnDeviations> compare(table const& t, halfMatrix const& deviations, matrix const& exact);
+// The deviations of a table's columns, part by part.
+class deviationGatherer {
+ public:
+  // The deviations of the next part, which are `exact` in double.
+  void add(tablePart const& part, halfMatrix const& deviations, matrix const& exact);
+
+  std::vector<columnDeviations> take() { return std::move(columns_); }
+
+ private:
+  void add(std::size_t rows, double const* value, double const* back, double const* exact, double const* nearest,
+           double const* ulps);
+
+  std::vector<columnDeviations> columns_;
+  std::vector<double> distances_;  // of the last column
+};
 
 }  // namespace halfscope

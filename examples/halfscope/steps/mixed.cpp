@@ -48,12 +48,12 @@ std::string notice(std::vector<columnMixtures> const& columns) {
 
 std::vector<heading> headings() {
   return {{"column", "column", "", 0},
-          {"nearest_half_half", "nearest %", "half-half", 1},
-          {"nearest_half_double", "nearest %", "half-double", 1},
-          {"nearest_double_half", "nearest %", "double-half", 1},
-          {"lost_half_half", "lost", "half-half", 4, true},
-          {"lost_half_double", "lost", "half-double", 4, true},
-          {"lost_double_half", "lost", "double-half", 4, true},
+          {"nearest_count_half_half", "nearest %", "half-half", 1},
+          {"nearest_count_half_double", "nearest %", "half-double", 1},
+          {"nearest_count_double_half", "nearest %", "double-half", 1},
+          {"lost_count_half_half", "lost", "half-half", 4, true},
+          {"lost_count_half_double", "lost", "half-double", 4, true},
+          {"lost_count_double_half", "lost", "double-half", 4, true},
           {"typical_error_ulp_half_half", "typical ulp", "half-half", 6},
           {"typical_error_ulp_half_double", "typical ulp", "half-double", 2},
           {"typical_error_ulp_double_half", "typical ulp", "double-half", 2},
@@ -75,20 +75,25 @@ std::vector<cell> row(columnMixtures const& c) {
 }  // namespace
 
 section mixedStep(table const& t) {
-  const matrix means = meansOf(t.values);
-  const matrix exact = deviationsFrom(means, t.values);
-  const halfMatrix values = toHalf(t.values);
-  const halfMatrix meansAsHalf = toHalf(means);
-  const auto halves = compare(t, minus(values, meansAsHalf), exact);
-  const auto halfValues = compare(t, minus(values, means), exact);
-  const auto halfMeans = compare(t, minus(t.values, meansAsHalf), exact);
-
+  const std::vector<double> means = meansOf(t);
+  deviationGatherer gatheredHalves, gatheredHalfValues, gatheredHalfMeans;
+  forEachPart(t, "mixed precision, " + t.name, [&](tablePart const& part) {
+    const matrix partMeans = meansIn(part, t, means);
+    const matrix exact = deviationsFrom(partMeans, part.values);
+    const halfMatrix values = toHalf(part.values);
+    const halfMatrix meansAsHalf = toHalf(partMeans);
+    gatheredHalves.add(part, minus(values, meansAsHalf), exact);
+    gatheredHalfValues.add(part, minus(values, partMeans), exact);
+    gatheredHalfMeans.add(part, minus(part.values, meansAsHalf), exact);
+  });
+  const auto halves = gatheredHalves.take(), halfValues = gatheredHalfValues.take(),
+             halfMeans = gatheredHalfMeans.take();
   std::vector<columnMixtures> columns;
   for (std::size_t j = 0; j < halves.size(); ++j) columns.push_back({halves[j], halfValues[j], halfMeans[j]});
 
   section s;
   s.key = "mixed";
-  s.title = "Minus the column mean, one side in double: " + countText(static_cast<long long>(t.values.rows)) + " x " +
+  s.title = "Minus the column mean, one side in double: " + countText(static_cast<long long>(t.rows)) + " x " +
             std::to_string(columns.size()) + " minus 1 x " + std::to_string(columns.size());
   s.rowsKey = "columns";
   s.headings = headings();

@@ -1,77 +1,82 @@
 // Step 1: every column to half and back. What is lost, and how much?
-#include <algorithm>
-#include <cmath>
-#include <limits>
+#include "steps/rounding.h"
 
+#include <algorithm>
+#include <array>
+#include <bitset>
+#include <cmath>
+#include <optional>
+
+#include "distinct.h"
 #include "half_matrix.h"
-#include "steps/steps.h"
 #include "words.h"
 
 namespace halfscope {
 
 namespace {
 
-constexpr half_t smallestNormal{0x0400};
-constexpr half_t largestFinite{0x7BFF};
+constexpr double smallestNormal = 0x1p-14;
 
-struct columnRounding {
-  std::string name;
-  long long values = 0;
-  long long missing = 0;
-  double smallest = std::numeric_limits<double>::infinity();
-  double largest = -std::numeric_limits<double>::infinity();
-  long long exact = 0;
-  long long overflowed = 0;  // finite in the file, infinite as a half
-  long long subnormal = 0;
-  long long vanished = 0;  // zero as a half, but not in the file
-  long long distinctValues = 0;
-  long long distinctHalves = 0;
-  double largestError = 0;  // the errors are those of the values that stayed finite
-  double largestUlps = 0;
-  double meanUlps = 0;
-  long long finite = 0;
-  double spacing = 0;  // of the halves at the largest one that stayed finite
+// How many units in the last place of a finite half make 1, by its exponent: powers of two, so that products are exact.
+constexpr std::array<double, 31> unitsPerOne = [] {
+  std::array<double, 31> units{};
+  double ofLargest = 0x1p-5;
+  for (std::size_t exponent = units.size(); exponent-- > 0; ofLargest *= 2) units[exponent] = ofLargest;
+  units[0] = units[1];  // subnormal halves are as far apart as the smallest normal ones
+  return units;
+}();
+
+// What a column's values become, part by part.
+class columnExaminer {
+ public:
+  explicit columnExaminer(numericColumn const& column) : column_(column) {
+    found_.name = column.name;
+    found_.beyond = column.beyond;
+  }
+
+  void add(std::size_t rows, double const* values, half_t const* halves, double const* back);
+  columnRounding finish(distinctCounter& distinct);
+
+ private:
+  numericColumn const& column_;
+  columnRounding found_;
+  double largestMagnitude_ = 0;
+  std::bitset<65536> patterns_;  // of the halves that were met
 };
 
-template <class T>
-long long distinct(std::vector<T> values) {
-  std::sort(values.begin(), values.end());
-  return std::unique(values.begin(), values.end()) - values.begin();
-}
-
-columnRounding examine(std::string const& name, std::size_t rows, double const* value, half_t const* half,
-                       double const* back, double const* ulps) {
-  columnRounding c;
-  c.name = name;
-  half_t largestMagnitude{0};
-  std::vector<double> present, presentHalves;
+void columnExaminer::add(std::size_t rows, double const* values, half_t const* halves, double const* back) {
+  columnRounding& c = found_;
   for (std::size_t i = 0; i < rows; ++i) {
-    if (std::isnan(value[i])) {
+    const double value = values[i], half = back[i], magnitude = std::abs(half);
+    if (std::isnan(value)) {
       ++c.missing;
       continue;
     }
-    const half_t magnitude = half_scalar::abs(half[i]);
-    const bool isZero = magnitude == half_t{0};
     ++c.values;
-    present.push_back(value[i]);
-    presentHalves.push_back(back[i]);
-    c.smallest = std::min(c.smallest, value[i]);
-    c.largest = std::max(c.largest, value[i]);
-    c.exact += back[i] == value[i];
-    c.overflowed += half_scalar::isinf(half[i]) && std::isfinite(value[i]);
-    c.subnormal += !isZero && magnitude < smallestNormal;
-    c.vanished += isZero && value[i] != 0;
-    if (!half_scalar::isfinite(half[i])) continue;
+    patterns_[half == 0 ? 0 : halves[i].bits] = true;
+    c.smallest = std::min(c.smallest, value);
+    c.largest = std::max(c.largest, value);
+    c.exact += half == value;
+    c.overflowed += std::isinf(half) && std::isfinite(value);
+    c.subnormal += half != 0 && magnitude < smallestNormal;
+    c.vanished += half == 0 && value != 0;
+    if (std::isinf(half)) continue;
     ++c.finite;
-    c.largestError = std::max(c.largestError, std::abs(back[i] - value[i]));
-    c.largestUlps = std::max(c.largestUlps, ulps[i]);
-    c.meanUlps += ulps[i];
-    if (magnitude > largestMagnitude) largestMagnitude = magnitude;
+    const double error = std::abs(half - value), ulps = error * unitsPerOne[halves[i].bits >> 10 & 31];
+    c.largestError = std::max(c.largestError, error);
+    c.largestUlps = std::max(c.largestUlps, ulps);
+    c.meanUlps += ulps;
+    largestMagnitude_ = std::max(largestMagnitude_, magnitude);
   }
+}
+
+columnRounding columnExaminer::finish(distinctCounter& distinct) {
+  columnRounding c = found_;
   if (c.finite > 0) c.meanUlps /= static_cast<double>(c.finite);
-  c.distinctValues = distinct(std::move(present));
-  c.distinctHalves = distinct(std::move(presentHalves));
-  c.spacing = half_scalar::impl::convertHalfToDouble(half_scalar::eps(largestMagnitude).bits);
+  c.distinctValues = c.isExact() ? static_cast<long long>(patterns_.count()) : distinct.count(column_.values);
+  c.distinctHalves = static_cast<long long>(patterns_.count());
+  c.spacing = half_scalar::impl::convertHalfToDouble(
+      half_scalar::eps(half_t{half_scalar::impl::convertDoubleToHalf(largestMagnitude_)}).bits);
   return c;
 }
 
@@ -82,15 +87,8 @@ columnRounding const& worst(std::vector<columnRounding> const& columns, Measure 
                            [&](auto const& a, auto const& b) { return measure(a) < measure(b); });
 }
 
-double share(long long count, long long whole) {
-  return whole == 0 ? 0.0 : static_cast<double>(count) / static_cast<double>(whole);
-}
-
 std::string exactColumns(std::vector<columnRounding> const& columns) {
-  std::vector<std::string> names;
-  for (auto const& c : columns) {
-    if (c.exact == c.values) names.push_back(c.name);
-  }
+  const auto names = namesOf(columns, [](auto const& c) { return c.isExact(); });
   if (names.empty()) return "";
   return nameList(names) + (names.size() == 1 ? " comes" : " come") + " through unchanged.";
 }
@@ -103,11 +101,12 @@ std::string notice(std::vector<columnRounding> const& columns) {
     return share(c.distinctValues - c.distinctHalves, c.distinctValues) * (c.finite > 0);
   });
   const auto& error = worst(columns, [](auto const& c) { return c.largestUlps; });
+  long long beyond = 0;
+  for (auto const& c : columns) beyond += c.beyond;
   std::string text;
   if (over.overflowed > 0)
     addSentence(text, nameInText(over.name) + " does not fit: " + someOf(over.overflowed, over.values) +
-                          " become infinity, since half ends at " +
-                          valueText(half_scalar::impl::convertHalfToDouble(largestFinite.bits)) + ".");
+                          " become infinity, since half ends at " + valueText(largestHalf) + ".");
   if (under.vanished > 0)
     addSentence(text, nameInText(under.name) + " fades out: " + someOf(under.vanished, under.values) +
                           " are too small for half and become zero.");
@@ -119,25 +118,29 @@ std::string notice(std::vector<columnRounding> const& columns) {
                             " different values: at the top of its range halves are " + valueText(merged.spacing) +
                             " apart.");
   } else if (error.largestUlps > 0) {
-    addSentence(text, "No two values fall together; " + nameInText(error.name) + " is off by up to " +
-                          valueText(error.largestError) + ".");
+    addSentence(text, (beyond > 1 ? "" : "No two values fall together; ") + nameInText(error.name) +
+                          " is off by up to " + valueText(error.largestError) + ".");
   }
+  if (beyond > 0)
+    addSentence(text,
+                countText(beyond) + (beyond == 1 ? " number is" : " numbers are") + " out of the range of double.");
   addSentence(text, exactColumns(columns));
   return text;
 }
 
 std::vector<heading> headings() {
   return {{"column", "column", "", 0},
-          {"values", "values", "", 4},
-          {"missing", "missing", "", 4, true},
+          {"value_count", "values", "", 4},
+          {"missing_count", "missing", "", 4, true},
+          {"beyond_double_count", "beyond", "double", 4, true},
           {"minimum", "min", "", 2},
           {"maximum", "max", "", 1},
-          {"exact", "exact", "%", 1},
-          {"distinct_values", "distinct", "in file", 7},
-          {"distinct_halves", "distinct", "as half", 7},
-          {"overflows", "to inf", "", 3, true},
-          {"vanished", "to zero", "", 3, true},
-          {"subnormal", "subnormal", "", 3, true},
+          {"exact_count", "exact", "%", 1},
+          {"distinct_value_count", "distinct", "in file", 7},
+          {"distinct_half_count", "distinct", "as half", 7},
+          {"overflow_count", "to inf", "", 3, true},
+          {"vanished_count", "to zero", "", 3, true},
+          {"subnormal_count", "subnormal", "", 3, true},
           {"largest_error", "max err", "in value", 3},
           {"largest_error_ulp", "max err", "ulp", 5},
           {"mean_error_ulp", "mean err", "ulp", 6},
@@ -149,6 +152,7 @@ std::vector<cell> row(columnRounding const& c) {
   return {textCell(c.name),
           countCell(c.values),
           countCell(c.missing),
+          countCell(c.beyond, c.beyond > 0),
           valueCell(c.smallest),
           valueCell(c.largest),
           shareCell(c.exact, c.values),
@@ -165,15 +169,23 @@ std::vector<cell> row(columnRounding const& c) {
 
 }  // namespace
 
-section roundingStep(table const& t) {
-  const halfMatrix halves = toHalf(t.values);
-  const matrix back = fromHalf(halves);
-  const matrix ulps = ulpDistance(halves, t.values);
-  std::vector<columnRounding> columns;
-  for (std::size_t j = 0; j < t.columnNames.size(); ++j)
-    columns.push_back(
-        examine(t.columnNames[j], t.values.rows, t.values.column(j), halves.column(j), back.column(j), ulps.column(j)));
+std::vector<columnRounding> roundingOf(table const& t) {
+  std::vector<columnRounding> found;
+  std::optional<columnExaminer> examiner;
+  distinctCounter distinct;
+  forEachPart(t, "rounding " + t.name + " to half", [&](tablePart const& part) {
+    const halfMatrix halves = toHalf(part.values);
+    const matrix back = fromHalf(halves);
+    for (std::size_t j = 0; j < part.values.columns; ++j) {
+      if (part.firstRow == 0) examiner.emplace(part.columns[j]);
+      examiner->add(part.values.rows, part.values.column(j), halves.column(j), back.column(j));
+      if (part.hasLastRow) found.push_back(examiner->finish(distinct));
+    }
+  });
+  return found;
+}
 
+section roundingSection(std::vector<columnRounding> const& columns) {
   section s;
   s.key = "rounding";
   s.title = "Rounded to half";

@@ -16,11 +16,11 @@ namespace {
 constexpr std::size_t wantedElements = std::size_t{1} << 20;
 
 // The table's rows again and again; a table that is larger already keeps as many rows as are wanted.
-matrix repeated(matrix const& values) {
-  const std::size_t rows = std::max<std::size_t>(1, wantedElements / values.columns);
-  matrix out(rows, values.columns);
-  for (std::size_t j = 0; j < values.columns; ++j) {
-    for (std::size_t i = 0; i < rows; ++i) out.column(j)[i] = values.column(j)[i % values.rows];
+matrix repeated(table const& t) {
+  const std::size_t rows = std::max<std::size_t>(1, wantedElements / t.columns.size());
+  matrix out(rows, t.columns.size());
+  for (std::size_t j = 0; j < out.columns; ++j) {
+    for (std::size_t i = 0; i < rows; ++i) out.column(j)[i] = t.columns[j].values[i % t.rows];
   }
   return out;
 }
@@ -84,7 +84,7 @@ std::string notice(std::vector<timing> const& timings, std::size_t elements) {
 }  // namespace
 
 section speedStep(table const& t) {
-  const matrix values = repeated(t.values);
+  const matrix values = repeated(t);
   halfMatrix halves(values.rows, values.columns), sums(values.rows, values.columns);
   matrix back(values.rows, values.columns);
   halfMatrix offsets(1, values.columns), means(1, values.columns);
@@ -103,6 +103,7 @@ section speedStep(table const& t) {
 
   std::vector<timing> timings;
   const auto measure = [&](std::string const& operation, std::size_t bytes, auto work) {
+    progress::show("measuring speed", timings.size(), 7);
     timings.push_back({operation, bytes, bestTime(work), copyTime(from, to, elements * bytes)});
   };
   measure("convertToHalf from double", wide + narrow, [&] { toHalf(values, halves); });
@@ -115,7 +116,7 @@ section speedStep(table const& t) {
 
   section s;
   s.key = "speed";
-  s.title = "Speed: " + shortened(t.name, 32) + (values.rows < t.values.rows ? " cut to " : " repeated to ") +
+  s.title = "Speed: " + shortened(t.name, 32) + (values.rows < t.rows ? " cut to " : " repeated to ") +
             countText(static_cast<long long>(values.rows)) + " x " + std::to_string(values.columns);
   s.rowsKey = "operations";
   s.headings = {{"operation", "operation", "", 0},

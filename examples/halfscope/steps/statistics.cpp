@@ -1,94 +1,111 @@
 // Step 5: mean, minimum and maximum of each column as the library's reductions find them in half, missing values left
 // out. What does the type that sums are kept in cost?
+#include "steps/statistics.h"
+
 #include <algorithm>
 #include <cmath>
+#include <limits>
+#include <optional>
 
 #include "half_matrix.h"
+#include "number.h"
 #include "steps/deviations.h"
-#include "steps/steps.h"
 #include "words.h"
 
 namespace halfscope {
 
 namespace {
 
-// Where a column has its first smallest and largest values, counted from 1.
-struct places {
-  double minimum;
-  double maximum;
-};
-
-places placesOf(double const* value, std::size_t rows) {
-  std::size_t lowest = rows, highest = rows;
+// The first of the extreme values that `isBetter` looks for, counted from 1; 0 where nobody knows which one of several
+// numbers beyond double it is.
+template <class IsBetter>
+std::size_t rowOfExtreme(numericColumn const& c, IsBetter isBetter) {
+  const std::size_t rows = c.values.size();
+  std::size_t best = rows;
   for (std::size_t i = 0; i < rows; ++i) {
-    if (std::isnan(value[i])) continue;
-    if (lowest == rows || value[i] < value[lowest]) lowest = i;
-    if (highest == rows || value[i] > value[highest]) highest = i;
+    if (!std::isnan(c.values[i]) && (best == rows || isBetter(c.values[i], c.values[best]))) best = i;
   }
-  return {static_cast<double>(lowest + 1), static_cast<double>(highest + 1)};
+  const double magnitude = std::abs(c.values[best]);
+  const bool isUnsure = c.beyond > 1 && (magnitude == std::numeric_limits<double>::max() ||
+                                         magnitude == std::numeric_limits<double>::denorm_min());
+  return isUnsure ? 0 : best + 1;
 }
 
-// As meanOf, but infinities count as they do in the library.
-double fullMeanOf(double const* value, std::size_t rows) {
+// As meanOf, but infinities count as they do in the library; nothing where the size of a number is not known.
+std::optional<double> fullMeanOf(numericColumn const& c) {
   double infinities = 0;
-  for (std::size_t i = 0; i < rows; ++i) infinities += std::isinf(value[i]) ? value[i] : 0.0;
-  return infinities == 0 ? meanOf(value, rows) : infinities;
-}
-
-// The library's results for all columns, each 1 by m, in double for the report.
-struct statistics {
-  matrix mean;  // in double from the file's values
-  matrix halfSums, singleSums, doubleSums;
-  matrix halfError, singleError, doubleError;  // of these means, in ulp
-  matrix minimum, minimumRow, maximum, maximumRow;
-};
-
-statistics examine(matrix const& values) {
-  const halfMatrix halves = toHalf(values);
-  statistics s;
-  s.mean = matrix(1, values.columns);
-  for (std::size_t j = 0; j < values.columns; ++j) s.mean.cells[j] = fullMeanOf(values.column(j), values.rows);
-  s.halfSums = fromHalf(columnMeans(halves, sumsIn::half));
-  s.singleSums = fromHalf(columnMeans(halves, sumsIn::single));
-  s.doubleSums = columnMeansInDouble(halves);
-  s.halfError = ulpDistance(s.halfSums, s.mean);
-  s.singleError = ulpDistance(s.singleSums, s.mean);
-  s.doubleError = ulpDistance(s.doubleSums, s.mean);
-  const extremes low = columnMinima(halves), high = columnMaxima(halves);
-  s.minimum = fromHalf(low.values);
-  s.minimumRow = low.rows;
-  s.maximum = fromHalf(high.values);
-  s.maximumRow = high.rows;
-  return s;
-}
-
-bool fits(double mean) { return std::isfinite(mean) && std::abs(mean) < 65520; }
-
-std::string notice(table const& t, statistics const& s) {
-  std::vector<std::string> overflowing;
-  std::size_t worst = t.columnNames.size();
-  double largestSingle = 0;
-  long long fitting = 0;
-  for (std::size_t j = 0; j < t.columnNames.size(); ++j) {
-    if (!fits(s.mean.cells[j])) continue;
-    ++fitting;
-    if (std::isfinite(s.singleSums.cells[j])) largestSingle = std::max(largestSingle, s.singleError.cells[j]);
-    if (!std::isfinite(s.halfSums.cells[j]))
-      overflowing.push_back(t.columnNames[j]);
-    else if (worst == t.columnNames.size() || s.halfError.cells[j] > s.halfError.cells[worst])
-      worst = j;
+  bool isKnown = true;
+  for (const double value : c.values) {
+    infinities += std::isinf(value) ? value : 0.0;
+    isKnown = isKnown && !(c.beyond > 0 && std::abs(value) == std::numeric_limits<double>::max());
   }
+  if (infinities != 0) return infinities;
+  if (!isKnown) return std::nullopt;
+  return meanOf(c.values.data(), c.values.size());
+}
+
+std::vector<columnStatistics> examine(tablePart const& part) {
+  const halfMatrix halves = toHalf(part.values);
+  const std::size_t count = part.values.columns;
+  matrix mean(1, count);
+  std::vector<bool> isMeanKnown;
+  for (std::size_t j = 0; j < count; ++j) {
+    const auto found = fullMeanOf(part.columns[j]);
+    isMeanKnown.push_back(found.has_value());
+    mean.cells[j] = found.value_or(std::nan(""));
+  }
+  const matrix halfSums = fromHalf(columnMeans(halves, sumsIn::half));
+  const matrix singleSums = fromHalf(columnMeans(halves, sumsIn::single));
+  const matrix doubleSums = columnMeansInDouble(halves);
+  const matrix halfError = ulpDistance(halfSums, mean);
+  const matrix singleError = ulpDistance(singleSums, mean);
+  const matrix doubleError = ulpDistance(doubleSums, mean);
+  const extremes low = columnMinima(halves), high = columnMaxima(halves);
+  const matrix minimum = fromHalf(low.values), maximum = fromHalf(high.values);
+  std::vector<columnStatistics> columns;
+  for (std::size_t j = 0; j < count; ++j) {
+    columnStatistics c;
+    c.name = part.columns[j].name;
+    c.mean = mean.cells[j];
+    c.isMeanKnown = isMeanKnown[j];
+    c.halfSums = {halfSums.cells[j], halfError.cells[j]};
+    c.singleSums = {singleSums.cells[j], singleError.cells[j]};
+    c.doubleSums = {doubleSums.cells[j], doubleError.cells[j]};
+    c.minimum = {minimum.cells[j], static_cast<std::size_t>(low.rows.cells[j]),
+                 rowOfExtreme(part.columns[j], [](double a, double b) { return a < b; })};
+    c.maximum = {maximum.cells[j], static_cast<std::size_t>(high.rows.cells[j]),
+                 rowOfExtreme(part.columns[j], [](double a, double b) { return a > b; })};
+    columns.push_back(std::move(c));
+  }
+  return columns;
+}
+
+std::string notice(std::vector<columnStatistics> const& columns) {
+  columnStatistics const* worst = nullptr;
+  double largestSingle = 0;
+  long long fitting = 0, fittingInSingle = 0;
+  for (auto const& c : columns) {
+    if (!c.meanFits()) continue;
+    ++fitting;
+    fittingInSingle += std::isfinite(c.singleSums.mean);
+    if (std::isfinite(c.singleSums.mean)) largestSingle = std::max(largestSingle, c.singleSums.ulps);
+    if (std::isfinite(c.halfSums.mean) && (worst == nullptr || c.halfSums.ulps > worst->halfSums.ulps)) worst = &c;
+  }
+  const auto overflowing =
+      namesOf(columns, [](auto const& c) { return c.meanFits() && !std::isfinite(c.halfSums.mean); });
   std::string text;
   if (!overflowing.empty())
     addSentence(text, "Sums in half run beyond 65504 in " + nameList(overflowing) + ", whose mean would fit.");
-  if (worst < t.columnNames.size() && s.halfError.cells[worst] > 0.5)
-    addSentence(text, "Rounding every sum to half takes the mean of " + nameInText(t.columnNames[worst]) + " " +
-                          ulpText(s.halfError.cells[worst]) + " ulp away from " + valueText(s.mean.cells[worst]) +
-                          ", to " + valueText(s.halfSums.cells[worst]) + ".");
-  if (fitting > 0)
+  if (worst != nullptr && worst->halfSums.ulps > 0.5)
+    addSentence(text, "Rounding every sum to half takes the mean of " + nameInText(worst->name) + " " +
+                          ulpText(worst->halfSums.ulps) + " ulp away from " + valueText(worst->mean) + ", to " +
+                          valueText(worst->halfSums.mean) + ".");
+  if (fittingInSingle > 0)
     addSentence(text, "With sums in single " +
-                          std::string(fitting == 1 ? "the mean that fits" : "every mean that fits") + " is within " +
-                          ulpText(largestSingle) + " ulp of the true one.");
+                          std::string(fitting == 1                 ? "the mean that fits"
+                                      : fittingInSingle == fitting ? "every mean that fits"
+                                                                   : "every mean that stays finite") +
+                          " " + nearnessText(largestSingle, "the true one") + ".");
   return text;
 }
 
@@ -109,47 +126,55 @@ std::vector<heading> headings() {
           {"maximum_row_in_file", "max row", "in file", 4}};
 }
 
-cell rowCell(double row, bool remarkable = false) { return countCell(static_cast<long long>(row), remarkable); }
-
-cell errorCell(double error, double result, double mean) {
-  return std::isfinite(result) && std::isfinite(mean) ? ulpCell(error, error > 1) : noCell();
+cell rowCell(std::size_t row, bool remarkable = false) {
+  return row == 0 ? noCell() : countCell(static_cast<long long>(row), remarkable);
 }
 
-std::vector<cell> row(std::string const& name, statistics const& s, std::size_t j, places const& file) {
-  const double mean = s.mean.cells[j];
-  const auto meanCell = [&](double result) {
-    cell c = valueCell(result);
-    c.remarkable = fits(mean) && !std::isfinite(result);
-    return c;
+std::vector<cell> row(columnStatistics const& c) {
+  const auto meanCell = [&](sumResult const& r) {
+    cell shown = valueCell(r.mean);
+    shown.remarkable = c.meanFits() && !std::isfinite(r.mean);
+    return shown;
   };
-  return {textCell(name),
-          valueCell(mean),
-          meanCell(s.halfSums.cells[j]),
-          meanCell(s.singleSums.cells[j]),
-          meanCell(s.doubleSums.cells[j]),
-          errorCell(s.halfError.cells[j], s.halfSums.cells[j], mean),
-          errorCell(s.singleError.cells[j], s.singleSums.cells[j], mean),
-          errorCell(s.doubleError.cells[j], s.doubleSums.cells[j], mean),
-          valueCell(s.minimum.cells[j]),
-          rowCell(s.minimumRow.cells[j], s.minimumRow.cells[j] != file.minimum),
-          rowCell(file.minimum),
-          valueCell(s.maximum.cells[j]),
-          rowCell(s.maximumRow.cells[j], s.maximumRow.cells[j] != file.maximum),
-          rowCell(file.maximum)};
+  const auto errorCell = [&](sumResult const& r) {
+    return std::isfinite(r.mean) && std::isfinite(c.mean) ? ulpCell(r.ulps, r.ulps > 1) : noCell();
+  };
+  return {textCell(c.name),
+          c.isMeanKnown ? valueCell(c.mean) : noCell(),
+          meanCell(c.halfSums),
+          meanCell(c.singleSums),
+          meanCell(c.doubleSums),
+          errorCell(c.halfSums),
+          errorCell(c.singleSums),
+          errorCell(c.doubleSums),
+          valueCell(c.minimum.value),
+          rowCell(c.minimum.row, c.minimum.row != c.minimum.rowInFile),
+          rowCell(c.minimum.rowInFile),
+          valueCell(c.maximum.value),
+          rowCell(c.maximum.row, c.maximum.row != c.maximum.rowInFile),
+          rowCell(c.maximum.rowInFile)};
 }
 
 }  // namespace
 
-section statisticsStep(table const& t) {
-  const statistics found = examine(t.values);
+bool columnStatistics::meanFits() const { return std::isfinite(mean) && std::abs(mean) < 65520; }
+
+std::vector<columnStatistics> statisticsOf(table const& t) {
+  std::vector<columnStatistics> found;
+  forWholeColumns(t, "means of " + t.name, [&](tablePart const& part) {
+    for (columnStatistics& c : examine(part)) found.push_back(std::move(c));
+  });
+  return found;
+}
+
+section statisticsSection(std::vector<columnStatistics> const& columns) {
   section s;
   s.key = "statistics";
   s.title = "Column by column in half: means by three kinds of sums, least and largest values";
   s.rowsKey = "columns";
   s.headings = headings();
-  for (std::size_t j = 0; j < t.columnNames.size(); ++j)
-    s.rows.push_back(row(t.columnNames[j], found, j, placesOf(t.values.column(j), t.values.rows)));
-  s.notice = notice(t, found);
+  for (auto const& c : columns) s.rows.push_back(row(c));
+  s.notice = notice(columns);
   return s;
 }
 

@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "number.h"
+
 namespace halfscope {
 
 namespace {
@@ -45,7 +47,7 @@ straightLine fit(std::vector<double> const& value) {
 int exponentOf(double const* value, std::size_t rows) {
   double largest = 0;
   for (std::size_t i = 0; i < rows; ++i) {
-    if (std::isfinite(value[i])) largest = std::max(largest, std::abs(value[i]));
+    if (isInRange(value[i])) largest = std::max(largest, std::abs(value[i]));
   }
   int exponent = 0;
   std::frexp(largest, &exponent);
@@ -64,8 +66,8 @@ detrended withoutTrends(matrix const& values) {
     const int exponent = exponentOf(value, rows);
     bool finite = true;
     for (std::size_t i = 0; i < rows; ++i) {
-      finite = finite && !std::isinf(value[i]);
-      scaled[i] = std::isfinite(value[i]) ? std::ldexp(value[i], -exponent) : std::nan("");
+      finite = finite && (std::isnan(value[i]) || isInRange(value[i]));
+      scaled[i] = isInRange(value[i]) ? std::ldexp(value[i], -exponent) : std::nan("");
     }
     const straightLine line = fit(scaled);
     double largest = 0, squares = 0, count = 0;
