@@ -37,19 +37,16 @@ struct binaryPass {
 
 template <class Ftor, class A, class B, class C>
 flatPass binaryPassFor(meeting along) {
-  switch (along) {
-    case rightVaries:
-      return passOnPointers<binaryPass<Ftor, A, B*, C>>::chosen();
-    case leftVaries:
-      return passOnPointers<binaryPass<Ftor, A*, B, C>>::chosen();
-    default:
-      return passOnPointers<binaryPass<Ftor, A*, B*, C>>::chosen();
+  if constexpr (!repeatsSingles<Ftor, A, B>) {
+    if (along == rightVaries) return passOnPointers<binaryPass<Ftor, A, B*, C>>::chosen();
+    if (along == leftVaries) return passOnPointers<binaryPass<Ftor, A*, B, C>>::chosen();
   }
+  return passOnPointers<binaryPass<Ftor, A*, B*, C>>::chosen();
 }
 
 template <class Ftor, class A, class B, class C>
-inline constexpr elementwiseOp binaryOp{
-    2, {sizeof(A), sizeof(B)}, sizeof(C), Ftor::grain, &binaryPassFor<Ftor, A, B, C>};
+inline constexpr elementwiseOp binaryOp{2,           {sizeof(A), sizeof(B)},        sizeof(C),
+                                        Ftor::grain, &binaryPassFor<Ftor, A, B, C>, repeatsSingles<Ftor, A, B>};
 
 // How the operands of a flat loop meet, by their types.
 template <class T1, class T2>

@@ -28,6 +28,12 @@ struct elementwiseOp {
   meeting allVary() const { return (1u << operands) - 1; }
 };
 
+// Whether a functor has passes of arrays alone for these element types: its member template repeatsSinglesFor says so.
+template <class Ftor, class... Elements>
+inline constexpr bool repeatsSingles = requires {
+  requires Ftor::template repeatsSinglesFor<Elements...>;
+};
+
 // A pass written on element types, run(operands..., output, n), as the loops call it. An operand of pointer type is an
 // array, any other a single element, which is read before anything is written.
 template <class Pass>

@@ -17,12 +17,6 @@ struct ternaryPass {
   }
 };
 
-// Whether a functor has passes of arrays alone for these element types: its member template repeatsSinglesFor says so.
-template <class Ftor, class... Elements>
-inline constexpr bool repeatsSingles = requires {
-  requires Ftor::template repeatsSinglesFor<Elements...>;
-};
-
 // The seven meetings, a's bit the highest.
 template <class Ftor, class A, class B, class C, class D>
 flatPass ternaryPassFor(meeting along) {

@@ -6,6 +6,7 @@
 #include <type_traits>
 
 #include "scalar/functors/complex_product_blocks.h"
+#include "scalar/functors/complex_quotient_blocks.h"
 #include "scalar/functors/operands.h"
 #include "scalar/mixed_arithmetic.h"
 
@@ -51,11 +52,22 @@ struct timesFtor {
 struct rdivideFtor {
   static constexpr unsigned long grain = 256;
   template <class A, class B>
-  static constexpr bool baseOnlyFor = isComplexPair<A, B>;  // a chain of tests
+  static constexpr bool baseOnlyFor = isComplexPair<A, B>;  // a chain of tests, or a pass that chooses its own level
   template <class A, class B>
   ZTHALF_INLINE auto operator()(A x, B y) const {
-    return element(zthalf::anyQuotient(plainOperand(x), plainOperand(y)));
+    if constexpr (isComplexPairOfHalves<A, B>) {
+      return element(zthalf::quotientOfHalves(plainOperand(x), plainOperand(y)));
+    } else {
+      return element(zthalf::anyQuotient(plainOperand(x), plainOperand(y)));
+    }
   }
+
+  // Halves, one of them complex at least, in vector lanes.
+  template <class A, class B>
+  static constexpr bool repeatsSinglesFor = isComplexPairOfHalves<A, B>;
+  template <class A, class B>
+  requires isComplexPairOfHalves<A, B>
+  static void runInBlocks(A* a, B* b, complexHalf* c, unsigned long n) { complexQuotientBlocks(a, b, c, n); }
 };
 
 }  // namespace half::scalar::emulated

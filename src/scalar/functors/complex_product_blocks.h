@@ -7,18 +7,10 @@
 #include <cstdint>
 
 #include "scalar/complex/product_lanes.h"
+#include "scalar/functors/operands.h"
 #include "zthalf/half_t.h"
 
 namespace half::scalar::emulated {
-
-// An element of an operand, which is an array or one value.
-ZTHALF_INLINE zthalf::complexHalf productOperand(std::complex<fp16binary_t> const* z, unsigned long i) {
-  auto const* parts = reinterpret_cast<std::uint16_t const*>(z);
-  return {parts[2 * i], parts[2 * i + 1]};
-}
-ZTHALF_INLINE zthalf::complexHalf productOperand(std::complex<fp16binary_t> z, unsigned long) {
-  return {z.real().bits, z.imag().bits};
-}
 
 // Blocks of plain products; one with a doubtful element is done again with every case looked at. Both loops run in
 // vector lanes, and the parts are kept apart until they are stored, without which they would not. A block is read
@@ -33,7 +25,7 @@ ZTHALF_INLINE void complexProductBlocks(T1 a, T2 b, std::complex<fp16binary_t>* 
     std::uint32_t doubt = 0;
     for (unsigned long i = 0; i < size; ++i) {
       const zthalf::productInDoubt product =
-          zthalf::plainProductInLanes(productOperand(a, begin + i), productOperand(b, begin + i));
+          zthalf::plainProductInLanes(laneOperand(a, begin + i), laneOperand(b, begin + i));
       re[i] = product.value.re;
       im[i] = product.value.im;
       doubt |= product.doubt;
@@ -41,7 +33,7 @@ ZTHALF_INLINE void complexProductBlocks(T1 a, T2 b, std::complex<fp16binary_t>* 
     if (doubt != 0) {
       for (unsigned long i = 0; i < size; ++i) {
         const zthalf::complexHalf product =
-            zthalf::productInLanes(productOperand(a, begin + i), productOperand(b, begin + i));
+            zthalf::productInLanes(laneOperand(a, begin + i), laneOperand(b, begin + i));
         re[i] = product.re;
         im[i] = product.im;
       }

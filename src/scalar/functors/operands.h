@@ -25,9 +25,23 @@ using operandOf = decltype(plainOperand(T{}));
 template <class A, class B>
 inline constexpr bool isComplexPair = zthalf::isComplexOperand<operandOf<A>> || zthalf::isComplexOperand<operandOf<B>>;
 
+template <class A, class B>
+inline constexpr bool isComplexPairOfHalves = isComplexPair<A, B>&& zthalf::areMadeOfHalves<operandOf<A>, operandOf<B>>;
+
 // Complex operands beside floats or doubles gain nothing from the wide levels: most of the work is moving parts.
 template <class A, class B>
 inline constexpr bool isMixedComplexPair = isComplexPair<A, B> && !zthalf::areMadeOfHalves<operandOf<A>, operandOf<B>>;
+
+// The same of element i of an operand that is an array or one value, read in a way that compilers take to vector lanes.
+ZTHALF_INLINE zthalf::complexHalf laneOperand(complexHalf const* z, unsigned long i) {
+  auto const* parts = reinterpret_cast<std::uint16_t const*>(z);
+  return {parts[2 * i], parts[2 * i + 1]};
+}
+ZTHALF_INLINE std::uint16_t laneOperand(fp16binary_t const* x, unsigned long i) { return x[i].bits; }
+template <class T>
+ZTHALF_INLINE operandOf<T> laneOperand(T value, unsigned long) {
+  return plainOperand(value);
+}
 
 ZTHALF_INLINE fp16binary_t element(std::uint16_t bits) { return {bits}; }
 ZTHALF_INLINE std::complex<fp16binary_t> element(zthalf::complexHalf z) { return {{z.re}, {z.im}}; }
