@@ -20,6 +20,8 @@ setup_packages() {
       s390x) echo g++-s390x-linux-gnu qemu-user-static libtbb-dev:s390x googletest ;;
       full) echo clang libclang-rt-14-dev ;;
       package) echo debhelper lintian dpkg-dev fakeroot debootstrap ;;
+      proof) echo python3 ;;
+      peers) echo python3-numpy libeigen3-dev ;;
       bench) echo libbenchmark-dev ;;
       *) echo "setup_packages: there is no group '$group'" >&2 && return 1 ;;
     esac
