@@ -188,6 +188,13 @@ TYPED_TEST(Cast, ToHalfIsTheConversion) {
   });
 }
 
+TEST(CastOfHalves, KeepsThePattern) {
+  EXPECT_EQ((castToFtor<fp16binary_t, fp16binary_t, void>::grain), 128u);
+  bitComparison compare("half to half");
+  testing::forEveryPattern(
+      [&](std::uint16_t h) { compare.check(castToFtor<fp16binary_t, fp16binary_t, void>{}({h}), fp16binary_t{h}, h); });
+}
+
 TEST(CastLogical, TakesEveryByteAndGivesABool) {
   for (unsigned byte = 0; byte <= 0xFF; ++byte) {
     const fp16binary_t h = castToFtor<bool, fp16binary_t, void>{}(static_cast<unsigned char>(byte));

@@ -5,6 +5,7 @@
 
 #include <array>
 #include <complex>
+#include <cstdio>
 #include <cstring>
 #include <type_traits>
 
@@ -28,7 +29,47 @@ TYPED_TEST(ValueType, IsOnePatternAndNothingElse) {
   EXPECT_EQ(alignof(TypeParam), 2u);
   EXPECT_TRUE(std::is_trivially_copyable_v<TypeParam>);
   EXPECT_TRUE(std::is_standard_layout_v<TypeParam>);
-  EXPECT_TRUE(std::is_aggregate_v<TypeParam>);
+  EXPECT_TRUE(std::is_trivially_default_constructible_v<TypeParam>);
+}
+
+// What parentheses, casts, assignments and containers go by. What braces take is for the compiler to say, in
+// tests/abi/misuse_test.py.
+template <class Value, class... Numbers>
+constexpr bool noneBecomes = ((!std::is_constructible_v<Value, Numbers> && !std::is_convertible_v<Numbers, Value> &&
+                               !std::is_assignable_v<Value&, Numbers> && !std::is_convertible_v<Value, Numbers>)&&...);
+
+TYPED_TEST(ValueType, NoNumberBecomesAPattern) {
+  EXPECT_TRUE((noneBecomes<TypeParam, float, double, long double, bool, char, signed char, unsigned char, short,
+                           unsigned short, int, unsigned, long, unsigned long, long long, unsigned long long>));
+  EXPECT_FALSE((std::is_constructible_v<TypeParam, unsigned short, unsigned short>));
+}
+
+TYPED_TEST(ValueType, BracesHoldThePattern) {
+  constexpr TypeParam one{0x3C00}, zero{};
+  static_assert(one.bits == 0x3C00 && zero.bits == 0);
+  EXPECT_TRUE((noexcept(TypeParam{})&& noexcept(TypeParam{0x3C00})));
+  TypeParam x = {0x7C01};
+  EXPECT_EQ(x.bits, 0x7C01);
+  x = {0x8000};
+  EXPECT_EQ(x.bits, 0x8000);
+  x = {};
+  EXPECT_EQ(x.bits, 0);
+  EXPECT_EQ(TypeParam({}).bits, 0);
+  EXPECT_EQ(TypeParam{one}.bits, 0x3C00);
+  const TypeParam several[] = {{1}, {2}, one};
+  EXPECT_EQ(several[1].bits, 2);
+}
+
+// A list that the compiler cannot see through.
+TYPED_TEST(ValueType, OfTwoPatternsNoneIsChosen) {
+  const volatile std::size_t chosen = 2;
+  const auto listOf = [](std::size_t length) -> std::initializer_list<std::uint16_t> {
+    static constexpr std::initializer_list<std::uint16_t> one{0x3C00}, two{0x3C00, 0x4000};
+    return length == 1 ? one : two;
+  };
+  EXPECT_EQ(TypeParam(listOf(chosen - 1)).bits, 0x3C00);
+  GTEST_FLAG_SET(death_test_style, "threadsafe");
+  EXPECT_DEATH(std::printf("%04X", TypeParam(listOf(chosen)).bits), "");
 }
 
 TYPED_TEST(ValueType, AnArrayIsAnArrayOfPatterns) {
