@@ -24,27 +24,29 @@ def soname(path):
 
 
 def head(path):
+    """The first two lines: which library, which package has it, which one a program is built with."""
     name = soname(path)
-    return '%s lib%s%s #MINVER#' % (name, *re.match(r'lib(\w+)\.so\.(\d+)$', name).groups())
+    plain, number = re.match(r'lib(\w+)\.so\.(\d+)$', name).groups()
+    return ['%s lib%s%s #MINVER#' % (name, plain, number), '* Build-Depends-Package: lib%s-dev' % plain]
 
 
 def listed(source):
-    """(first line, {mangled name: since which version}); nothing where there is no list yet"""
+    """(head, {mangled name: since which version}); nothing where there is no list yet"""
     path = os.path.join(source, LIST)
     if not os.path.exists(path):
-        return '', {}
+        return [], {}
     with open(path) as text:
         lines = text.read().splitlines()
-    rows = [LINE.match(line) for line in lines[1:]]
+    rows = [LINE.match(line) for line in lines[2:]]
     if not all(rows):
-        sys.exit('FAILED: cannot read %s: %s' % (LIST, lines[1 + rows.index(None)]))
-    return lines[0], {row.group(1): row.group(2) for row in rows}
+        sys.exit('FAILED: cannot read %s: %s' % (LIST, lines[2 + rows.index(None)]))
+    return lines[:2], {row.group(1): row.group(2) for row in rows}
 
 
 def refreshed(source, path):
     """The list as it should be: names that stand in it keep their version, new ones get the present one."""
     since, now = listed(source)[1], version(source)
-    yield head(path)
+    yield from head(path)
     for name in sorted({s.name for s in library.exported(path)}):
         yield ' %s@Base %s' % (name, since.get(name, now))
 
@@ -56,7 +58,7 @@ def numbers(text):
 def main(source, path):
     report = library.Report('debian symbols')
     first, since = listed(source)
-    report.require(first == head(path), '%s begins with "%s", not "%s"' % (LIST, first, head(path)))
+    report.require(first == head(path), '%s begins with %s, not %s' % (LIST, first, head(path)))
     exported = {s.name for s in library.exported(path)}
     for name in sorted(exported - since.keys()):
         report.require(False, '%s is exported and not in %s: run tools/refresh-exports.py' % (name, LIST))

@@ -95,7 +95,9 @@ def clean_debian(root):
 
 def check_on_clean_debian(report, root, copy, built):
     def inside(*command):
-        return call('chroot', root, 'env', 'LC_ALL=C', 'DEBIAN_FRONTEND=noninteractive', *command)
+        # A new machine knows nothing of this one's settings.
+        return call('chroot', root, 'env', '-i', 'PATH=/usr/sbin:/usr/bin:/sbin:/bin', 'HOME=/root', 'LC_ALL=C',
+                    'DEBIAN_FRONTEND=noninteractive', *command)
 
     os.makedirs(os.path.join(root, 'zthalf'))
     for package in built.values():
