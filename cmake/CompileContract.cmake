@@ -13,18 +13,23 @@ target_compile_options(zthalf_contract INTERFACE
 # other bits even so stops the configuration.
 set(ZTHALF_CHANGES_BITS -ffast-math -Ofast -funsafe-math-optimizations -fassociative-math -freciprocal-math
   -ffinite-math-only -fno-signed-zeros -fsingle-precision-constant -fcx-limited-range -fcx-fortran-rules -fapprox-func
-  "-ffp-model=[^ ]*" "-fdenormal-fp-math[^ ]*" -mdaz-ftz "-mrecip[^ ]*" "-mfpmath=[^ ]*(387|both)[^ ]*")
+  "-ffp-model=(fast|aggressive)" "-fdenormal-fp-math(-f32)?=(preserve-sign|positive-zero|dynamic)[^ ]*" -mdaz-ftz
+  "-mrecip[^ ]*" "-mfpmath=[^ ]*(387|both)[^ ]*")
 list(JOIN ZTHALF_CHANGES_BITS "|" ZTHALF_CHANGES_BITS)
 
 # A flag that names a processor changes no bit, since nothing is fused, whatever the processor could fuse. It decides
 # where the library runs, and what its base level is made of.
 set(ZTHALF_NAMES_PROCESSOR "-m(arch|cpu)=[^ ]+|-m(sse[34]|ssse|avx|fma|f16c|bmi)[^ ]*")
 
+# The linker's flags count: with -ffast-math it adds code that flushes subnormals, to the program that makes the tables.
 get_directory_property(ZTHALF_OUTER_OPTIONS COMPILE_OPTIONS)
-set(ZTHALF_OUTER_FLAGS CMAKE_CXX_FLAGS CMAKE_CXX_COMPILER_ARG1 ZTHALF_OUTER_OPTIONS CMAKE_SHARED_LINKER_FLAGS)
+get_directory_property(ZTHALF_OUTER_LINK_OPTIONS LINK_OPTIONS)
+set(ZTHALF_OUTER_FLAGS CMAKE_CXX_FLAGS CMAKE_CXX_COMPILER_ARG1 ZTHALF_OUTER_OPTIONS ZTHALF_OUTER_LINK_OPTIONS
+  CMAKE_SHARED_LINKER_FLAGS CMAKE_EXE_LINKER_FLAGS)
 foreach(config IN LISTS CMAKE_BUILD_TYPE CMAKE_CONFIGURATION_TYPES)
   string(TOUPPER ${config} config)
-  list(APPEND ZTHALF_OUTER_FLAGS CMAKE_CXX_FLAGS_${config} CMAKE_SHARED_LINKER_FLAGS_${config})
+  list(APPEND ZTHALF_OUTER_FLAGS
+    CMAKE_CXX_FLAGS_${config} CMAKE_SHARED_LINKER_FLAGS_${config} CMAKE_EXE_LINKER_FLAGS_${config})
 endforeach()
 set(ZTHALF_PROCESSOR_FLAG "")
 foreach(variable IN LISTS ZTHALF_OUTER_FLAGS)

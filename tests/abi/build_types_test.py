@@ -14,7 +14,7 @@ DISTRIBUTION = '-O2 -g'
 # Compiled in seconds, with vector passes and nothing else.
 SAMPLES = ('src/frame/rounding_unary.cpp', 'src/frame/bitwise_unary.cpp')
 
-CHANGES_BITS = ('-ffast-math', '-Ofast', '-O2 -funsafe-math-optimizations', '-mfpmath=387')
+CHANGES_BITS = ('-ffast-math', '-Ofast', '-O2 -funsafe-math-optimizations', '-mfpmath=387', '-ffp-model=fast')
 CHANGES_NOTHING = ('-mtune=generic', '-ffp-contract=fast', '-fno-fast-math', '-fno-plt -ffunction-sections')
 NAMES_PROCESSOR = ('-march=nocona -mtune=haswell', '-march=x86-64-v2', '-O2 -mfma')
 
@@ -85,7 +85,10 @@ def main(source, compiler):
                            '%s was taken: %s' % (flags, output))
         status, output = tree.configure('-DCMAKE_CXX_FLAGS=', '-DCMAKE_CXX_FLAGS_RELEASE=-O2 -ffast-math')
         report.require(status != 0 and "'-ffast-math' would" in output, 'taken for one build type: ' + output)
-        status, output = tree.configure('-DCMAKE_CXX_FLAGS=', '-DCMAKE_CXX_FLAGS_RELEASE=-O2')
+        status, output = tree.configure('-DCMAKE_CXX_FLAGS=', '-DCMAKE_CXX_FLAGS_RELEASE=-O2',
+                                        '-DCMAKE_EXE_LINKER_FLAGS=-ffast-math')
+        report.require(status != 0 and "'-ffast-math' would" in output, 'taken for linking: ' + output)
+        status, output = tree.configure('-DCMAKE_EXE_LINKER_FLAGS=')
         report.require(status == 0, 'flags of the build type: ' + output)
         fresh = Tree(source, os.path.join(work, 'fresh'), compiler)
         status, output = fresh.configure('-DZTHALF_BUILD_TESTS=OFF', CXXFLAGS='-O2 -ffast-math')

@@ -40,7 +40,7 @@ def main(source, build, compiler):
         os.environ['LD_LIBRARY_PATH'] = os.path.dirname(package[0])
         library.run(program)
         report.require(True, 'by pkg-config')
-        os.environ.update(CMAKE_PREFIX_PATH=prefix, CXX=compiler)
+        os.environ.update(CMAKE_PREFIX_PATH=prefix, CMAKE_GENERATOR='Ninja', CXX=compiler)
         library.run('sh', os.path.join(source, 'debian', 'tests', 'readme-example'))
         report.require(True, 'the README\'s example')
 

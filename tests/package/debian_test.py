@@ -132,7 +132,7 @@ def check_below_a_folder(report, root, copy, built):
     folders = glob.glob(os.path.join(root, 'usr', 'lib', '*', 'pkgconfig'))
     report.require(len(folders) == 1, 'folders of pkg-config: %s' % folders)
     status, output = call('sh', os.path.join(copy, 'debian', 'tests', 'readme-example'), env=dict(
-        os.environ, PKG_CONFIG_PATH=folders[0], CMAKE_PREFIX_PATH=os.path.join(root, 'usr'),
+        os.environ, PKG_CONFIG_PATH=folders[0], CMAKE_PREFIX_PATH=os.path.join(root, 'usr'), CMAKE_GENERATOR='Ninja',
         LD_LIBRARY_PATH=os.path.dirname(folders[0])))
     print(output)
     report.require(status == 0, 'the README\'s example with the installed packages:\n' + output)
