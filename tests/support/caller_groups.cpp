@@ -77,7 +77,7 @@ int waitingCall::tasksTakenDuring(anyCall call) {
 
 void waitingCall::meet() {
   if (std::this_thread::get_id() == caller_) {
-    until(std::chrono::seconds(5), [&] { return otherHasCome_.load(); });
+    until(std::chrono::milliseconds(200), [&] { return otherHasCome_.load(); });
     callerWaits_ = true;
   } else if (!otherHasCome_.exchange(true)) {
     until(std::chrono::milliseconds(100), [&] { return taken_ > 0; });

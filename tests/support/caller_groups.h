@@ -30,9 +30,9 @@ class waitingCall {
   // Makes the call, whose bodies are to call meet(). How many tasks of the caller's this thread took meanwhile.
   int tasksTakenDuring(anyCall call);
 
-  // Holds this thread until another one has come to meet it, and the other one then for a while.
+  // Holds the calling thread until another one has come to meet it, and the other one then for a while.
   void meet();
-  // Whether another thread came at all.
+  // Whether another one came: oneTBB does not promise it, and now and then wakes none.
   bool hasMet() const { return otherHasCome_; }
 
  private:
