@@ -24,9 +24,9 @@ class inputError : public std::runtime_error {
 
 class memoryError : public std::runtime_error {
  public:
-  memoryError(std::string const& source, std::size_t bytes)
+  memoryError(std::string const& source, std::size_t bytes, std::string const& reason = "")
       : std::runtime_error("not enough memory for " + source + ": about " + std::to_string((bytes >> 20) + 1) +
-                           " MB needed") {}
+                           " MB needed" + (reason.empty() ? "" : " (" + reason + ")")) {}
 };
 
 }  // namespace halfscope

@@ -5,6 +5,7 @@
 #include <functional>
 #include <future>
 #include <new>
+#include <stdexcept>
 #include <string>
 #include <utility>
 
@@ -78,9 +79,13 @@ std::size_t memoryFor(std::vector<table> const& tables) {
 report examine(options const& chosen) {
   const bool all = chosen.all || chosen.json;
   std::vector<table> tables = readTables(chosen.files);
+  if (!chosen.columns.empty()) tables = select(tables, chosen.columns);
+  const auto shortOfMemory = [&](char const* reason) {
+    const std::string what = tables.size() == 1 ? tables[0].name : std::to_string(tables.size()) + " files";
+    return memoryError(what, memoryFor(tables), reason);
+  };
   report result;
   try {
-    if (!chosen.columns.empty()) tables = select(tables, chosen.columns);
     for (table const& t : tables) result.files.push_back(examine(t, all));
     if (all && chosen.speed) {
       table const* largest = &tables[0];
@@ -90,8 +95,9 @@ report examine(options const& chosen) {
       result.speed = speedStep(*largest);
     }
   } catch (std::bad_alloc const&) {
-    throw memoryError(tables.size() == 1 ? tables[0].name : std::to_string(tables.size()) + " files",
-                      memoryFor(tables));
+    throw shortOfMemory("");
+  } catch (std::runtime_error const& error) {  // no room for the stack of a thread, which the library's scheduler wants
+    throw shortOfMemory(error.what());
   }
   return result;
 }

@@ -45,7 +45,7 @@ std::string allBytes(std::FILE* file, std::string const& name) {
       progress::show("reading " + name, bytes.size(), size);
     }
   } catch (std::bad_alloc const&) {
-    throw memoryError(name, 2 * std::max(size, bytes.size()));
+    throw memoryError(name, 3 * std::max(size, bytes.size()));  // text, numbers, and what is made of them
   }
   if (std::ferror(file)) failToRead(name, errno);
   return bytes;
