@@ -37,8 +37,13 @@ inline constexpr bool isQuick = requires {
 };
 
 template <class Ftor>
+inline constexpr tableThresholds thresholdsOf = !zthalf::earnsLevels<Ftor> ? oneByOne
+                                                : isQuick<Ftor>            ? quickInLanes
+                                                                           : inLanes;
+
+template <class Ftor>
 unsigned long tableFrom() {
-  constexpr tableThresholds from = !zthalf::earnsLevels<Ftor> ? oneByOne : isQuick<Ftor> ? quickInLanes : inLanes;
+  constexpr tableThresholds from = thresholdsOf<Ftor>;
   if constexpr (from.base == from.v4) return from.base;
   switch (zthalf::currentLevel()) {
     case zthalf::instructionLevel::v4:
@@ -48,6 +53,12 @@ unsigned long tableFrom() {
     default:
       return from.base;
   }
+}
+
+// Short arrays are not asked for a level.
+template <class Ftor>
+bool readsTable(unsigned long n) {
+  return n >= thresholdsOf<Ftor>.base && n >= tableFrom<Ftor>();
 }
 
 // What Ftor computes, read from its table.
@@ -70,14 +81,14 @@ struct unaryPass<lookUpFtor<Ftor>, fp16binary_t, fp16binary_t> {
 
 template <class Ftor>
 void unaryOpTableLoop(fp16binary_t* src, fp16binary_t* dst, unsigned long n, Ftor f) {
-  if (n >= tableFrom<Ftor>()) return unaryOpSimpleLoop(src, dst, n, lookUpFtor<Ftor>{});
+  if (readsTable<Ftor>(n)) return unaryOpSimpleLoop(src, dst, n, lookUpFtor<Ftor>{});
   unaryOpSimpleLoop(src, dst, n, f);
 }
 
 template <class Ftor, class Pred>
 bool unaryTableLoopWithEarlyExit(fp16binary_t* src, fp16binary_t* dst, unsigned long n, Ftor f, Pred stop) {
   using half::templates::emulated::halfUnarySimpleLoopWithEarlyExit;
-  if (n >= tableFrom<Ftor>()) return halfUnarySimpleLoopWithEarlyExit(src, dst, n, lookUpFtor<Ftor>{}, stop);
+  if (readsTable<Ftor>(n)) return halfUnarySimpleLoopWithEarlyExit(src, dst, n, lookUpFtor<Ftor>{}, stop);
   return halfUnarySimpleLoopWithEarlyExit(src, dst, n, f, stop);
 }
 
