@@ -21,9 +21,9 @@ void forget(std::uint16_t const* table) {
 }
 
 template <class Ftor, class Tabled>
-void coldRow(std::string const& name, unsigned long n, Tabled f) {
+void coldRow(std::string const& name, unsigned long n, void (*select)(), Tabled f) {
   const auto run = [=](benchmark::State& state) {
-    zthalf::forceLevel(zthalf::supportedLevel());
+    select();
     array<fp16binary_t> source(n), destination(n);
     for (unsigned long i = 0; i < n; ++i) source.data()[i] = {static_cast<std::uint16_t>(i * 40503u & 0x7FFF)};
     for (auto _ : state) {
@@ -39,11 +39,17 @@ void coldRow(std::string const& name, unsigned long n, Tabled f) {
   benchmark::RegisterBenchmark(name.c_str(), run)->UseManualTime();
 }
 
+// The table's row is the same at every level.
 template <class Ftor>
 void coldRows(std::string const& function, std::initializer_list<unsigned long> counts) {
   for (const unsigned long n : counts) {
-    coldRow<Ftor>("cold-" + function + "/computed/plain/" + std::to_string(n), n, Ftor{});
-    coldRow<Ftor>("cold-" + function + "/table/plain/" + std::to_string(n), n, half_utils::lookUpFtor<Ftor>{});
+    const std::string end = "/plain/" + std::to_string(n);
+    coldRow<Ftor>(
+        "cold-" + function + "/table" + end, n, [] {}, half_utils::lookUpFtor<Ftor>{});
+    for (ownSubject const& own : ownSubjects()) {
+      if (zthalf::earnsLevels<Ftor> || &own == &ownSubjects().front())
+        coldRow<Ftor>("cold-" + function + "/" + own.name + end, n, own.select, Ftor{});
+    }
   }
 }
 
@@ -52,9 +58,12 @@ const bool added = addRows([] {
   coldRows<expm1Ftor>("expm1", {32, 64, 96, 128, 256, 1024});
   coldRows<pow2Ftor>("pow2", {32, 64, 96, 128, 256, 1024});
   coldRows<log1pFtor>("log1p", {32, 64, 96, 128, 256, 1024});
-  coldRows<expFtor>("exp", {4096, 16384, 32768, 65536});
-  coldRows<logFtor>("log", {4096, 16384, 32768, 65536});
-  coldRows<sqrtFtor>("sqrt", {4096, 16384, 32768, 65536});
+  for (const unsigned long n : {1024, 2048, 3072, 4096, 6144, 8192, 16384, 32768, 65536}) {
+    coldRows<expFtor>("exp", {n});
+    coldRows<logFtor>("log", {n});
+    coldRows<sqrtFtor>("sqrt", {n});
+    coldRows<rsqrtFtor>("rsqrt", {n});
+  }
 });
 
 }  // namespace

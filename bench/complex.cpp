@@ -25,6 +25,8 @@ const bool added = addRows([] {
   row("complex-times", half_vector::times, &peerPasses::complexTimes);
   pairRow<half_t, complexHalf, complexHalf>("complex-times-real", half_vector::times);
   row("complex-rdivide", half_vector::rdivide, nullptr);
+  pairRow<complexHalf, half_t, complexHalf>("complex-rdivide-real", half_vector::rdivide);
+  pairRow<half_t, complexHalf, complexHalf>("real-rdivide-complex", half_vector::rdivide);
   unaryRow<complexHalf, half_t>("complex-abs", half_vector::abs);
   unaryRow<complexHalf, complexHalf>("complex-sign", half_vector::sign);
 });

@@ -52,6 +52,17 @@ ZTHALF_INLINE typename Step::number advanced(typename Step::number folded, typen
   }
 }
 
+// The next value of a chain, whose parts stand so far apart.
+template <class Step, bool settles>
+ZTHALF_INLINE typename Step::number nextNumber(std::uint16_t const* element, unsigned distance) {
+  std::uint16_t patterns[Step::parts];
+  for (int p = 0; p < Step::parts; ++p) patterns[p] = element[p * distance];
+  if constexpr (!settles && requires { Step::admit(patterns); }) Step::admit(patterns);
+  typename Step::number x;
+  for (int p = 0; p < Step::parts; ++p) x.part[p] = zthalf::widen<typename Step::wide>(patterns[p]);
+  return x;
+}
+
 // The chains of a tile, over `n` elements of each of tileLanes arrays, going on from numbers[part][lane].
 template <class Step, bool settles>
 struct tilePass {
@@ -79,12 +90,9 @@ struct tilePass {
  private:
   ZTHALF_INLINE static void step(std::uint16_t const* next, wide* numbers) {
     for (unsigned lane = 0; lane < tileLanes; ++lane) {
-      typename Step::number folded, x;
-      for (int p = 0; p < parts; ++p) {
-        folded.part[p] = numbers[p * tileLanes + lane];
-        x.part[p] = zthalf::widen<wide>(next[p * tileLanes + lane]);
-      }
-      folded = advanced<Step, settles>(folded, x);
+      typename Step::number folded;
+      for (int p = 0; p < parts; ++p) folded.part[p] = numbers[p * tileLanes + lane];
+      folded = advanced<Step, settles>(folded, nextNumber<Step, settles>(next + lane, tileLanes));
       for (int p = 0; p < parts; ++p) numbers[p * tileLanes + lane] = folded.part[p];
     }
   }
@@ -114,12 +122,9 @@ struct rowPass {
     using word = typename zthalf::formatOf<wide>::word;
     word anyNaN = 0;
     for (unsigned long j = 0; j < n; ++j) {
-      typename Step::number number, x;
-      for (int p = 0; p < parts; ++p) {
-        number.part[p] = folded[p * stride + j];
-        x.part[p] = zthalf::widen<wide>(elements[j * parts + p]);
-      }
-      number = advanced<Step, settles>(number, x);
+      typename Step::number number;
+      for (int p = 0; p < parts; ++p) number.part[p] = folded[p * stride + j];
+      number = advanced<Step, settles>(number, nextNumber<Step, settles>(elements + j * parts, 1));
       for (int p = 0; p < parts; ++p) {
         out[p * stride + j] = number.part[p];
         anyNaN |= zthalf::maskOf<word>(number.part[p] != number.part[p]);

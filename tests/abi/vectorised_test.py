@@ -1,7 +1,8 @@
 """The hot passes really are vectorised at every instruction level: one lost compile flag turns them scalar without a word.
 
 A pass that is compiled for the wide levels must do packed work on their registers, and on 128 bits at the base level.
-wide_passes.txt names the passes that must be there, and the levels at which some stay scalar.
+wide_passes.txt names the passes that must be there, the levels at which some stay scalar, and instructions that some must
+have where packed moves alone would hide scalar arithmetic.
 
 usage: vectorised_test.py LIBRARY        (x86-64, compiled with optimisation)
 """
@@ -45,27 +46,31 @@ def works_packed(body, level):
 
 
 def expectations():
-    """(what must be there, {pass: levels at which it stays scalar})"""
-    required, scalar = [], {}
+    """(what must be there, {pass: levels at which it stays scalar}, [(instruction, level, pass)])"""
+    required, scalar, instructions = [], {}, []
     for line in library.lines_of(os.path.join(library.HERE, 'wide_passes.txt')):
         words = line.split(None, 1)
         if words[0] == 'wide':
             required.append(words[1])
+        elif words[0] == 'with':
+            instructions.append(tuple(words[1].split(None, 2)))
         else:
             scalar.setdefault(words[1], set()).update(words[0].split(','))
-    return required, scalar
+    return required, scalar, instructions
 
 
 def main(path):
     report = library.Report('vectorised')
-    passes = {}
+    required, scalar, instructions = expectations()
+    passes, mnemonics = {}, {}
     for function, body in library.functions(path):
         match = PASS.match(function)
         if match:
-            passes.setdefault(shortened(match.group(1)), {})[match.group(2)] = works_packed(body, match.group(2))
+            name, level = shortened(match.group(1)), match.group(2)
+            passes.setdefault(name, {})[level] = works_packed(body, level)
+            mnemonics[level, name] = {mnemonic for mnemonic, _ in body}
     wide = {name: levels for name, levels in passes.items() if 'v3' in levels or 'v4' in levels}
 
-    required, scalar = expectations()
     for wanted in required:
         report.require(any(wanted in name for name in wide), 'no pass over %s is compiled for the wide levels' % wanted)
     for name in scalar:
@@ -76,6 +81,9 @@ def main(path):
             report.require(levels.get(level) or excused, 'scalar at level %s: %s' % (level, name))
             if excused and levels.get(level):
                 print('note: listed as scalar at level %s, and is not: %s' % (level, name))
+    for instruction, level, name in instructions:
+        report.require(instruction in mnemonics.get((level, name), ()),
+                       'no %s at level %s in %s' % (instruction, level, name))
     print('%d passes with wide levels' % len(wide))
     report.finish()
 

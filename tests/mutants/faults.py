@@ -213,6 +213,8 @@ FAULTS = [
           'return begin + (end - begin) / 2;', 'return begin + (end - begin + 1) / 2;', '^reduce/'),
     Fault('a mean in single skips a rounding', 'src/reduce/division.h',
           'outputPart<Out>::of(static_cast<float>(q))', 'outputPart<Out>::of(q)', '^reduce/'),
+    Fault('a NaN left out of a product in double counts as zero', 'src/reduce/folds/steps.h',
+          'neutral = zthalf::pattern::one', 'neutral = zthalf::pattern::zero', '^reduce/'),
     Fault('a column keeps the NaN of its total first', 'src/reduce/lane_fold.h',
           'Step::settled(partial, total)\n', 'Step::settled(total, partial)\n', '^reduce/'),
 ]

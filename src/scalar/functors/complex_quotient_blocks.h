@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <complex>
 #include <cstdint>
-#include <cstring>
 
 #include "core/instruction_level.h"
 #include "scalar/complex/quotient_nan_signs.h"
@@ -61,26 +60,29 @@ struct quotientBlocksPass {
   }
 };
 
-// The output may be one of the operands, but not overlap one in another way. The end is divided one by one where that
-// costs less than a block, else in a block that zeros fill up.
+template <class A, class B>
+void quotientsOneByOne(A* a, B* b, complexHalf* c, unsigned long n) {
+  for (unsigned long i = 0; i < n; ++i)
+    c[i] = element(zthalf::quotientOfHalves(plainOperand(a[i]), plainOperand(b[i])));
+}
+
+// The output may be one of the operands, but not overlap one in another way. So few are divided one by one, which costs
+// less than a block; more at the end in a block that zeros fill up.
 template <class A, class B>
 void complexQuotientBlocks(A* a, B* b, complexHalf* c, unsigned long n) {
-  constexpr unsigned long few = 10;
+  constexpr unsigned long few = 16;
+  if (n <= few) return quotientsOneByOne(a, b, c, n);
   const auto pass = zthalf::leveled<quotientBlocksPass<A, B>, A*, B*, complexHalf*, unsigned long>::chosen();
   const unsigned long blocks = n / quotientBlock, done = blocks * quotientBlock, rest = n - done;
   if (blocks > 0) pass(a, b, c, blocks);
-  if (rest > few) {
-    A lastA[quotientBlock] = {};
-    B lastB[quotientBlock] = {};
-    complexHalf lastC[quotientBlock];
-    std::copy_n(a + done, rest, lastA);
-    std::copy_n(b + done, rest, lastB);
-    pass(lastA, lastB, lastC, 1);
-    std::copy_n(lastC, rest, c + done);
-  } else {
-    for (unsigned long i = done; i < n; ++i)
-      c[i] = element(zthalf::quotientOfHalves(plainOperand(a[i]), plainOperand(b[i])));
-  }
+  if (rest <= few) return quotientsOneByOne(a + done, b + done, c + done, rest);
+  A lastA[quotientBlock] = {};
+  B lastB[quotientBlock] = {};
+  complexHalf lastC[quotientBlock];
+  std::copy_n(a + done, rest, lastA);
+  std::copy_n(b + done, rest, lastB);
+  pass(lastA, lastB, lastC, 1);
+  std::copy_n(lastC, rest, c + done);
 }
 
 }  // namespace half::scalar::emulated
