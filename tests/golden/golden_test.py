@@ -13,9 +13,9 @@ import library  # noqa: E402
 GROUPS = ('entries', 'scalars', 'operators')
 
 
-def sweep(command, group):
+def sweep(command, group, *options):
     """The program's lines for a group."""
-    done = subprocess.run(command + [group], stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True)
+    done = subprocess.run(command + [group, *options], stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True)
     if done.returncode == library.SKIPPED:
         library.skip(done.stdout.strip())
     if done.returncode != 0:

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "core/patterns.h"
+#include "tests/golden/underflow_inputs.h"
 #include "zthalf/half_t.h"
 
 namespace zthalf::golden {
@@ -42,11 +43,17 @@ class scrambler {
   std::uint64_t state_ = 2019;
 };
 
+inline std::vector<std::uint16_t> everyPattern() {
+  std::vector<std::uint16_t> all;
+  for (std::uint32_t p = 0; p < 0x10000; ++p) all.push_back(static_cast<std::uint16_t>(p));
+  return all;
+}
+
 // Halves that are special or next to something special, of both signs.
 inline std::vector<std::uint16_t> notablePatterns() {
-  constexpr std::array<std::uint16_t, 18> positive = {0x0000, 0x0001, 0x0200, 0x03FF, 0x0400, 0x1400, 0x37FF, 0x3800,
-                                                      0x3C00, 0x3C01, 0x4000, 0x4248, 0x63FF, 0x7BFF, 0x7C00, 0x7C01,
-                                                      0x7E00, 0x7FFF};
+  constexpr std::array<std::uint16_t, 18> positive = {0x0000, 0x0001, 0x0200, 0x03FF, 0x0400, 0x1400,
+                                                      0x37FF, 0x3800, 0x3C00, 0x3C01, 0x4000, 0x4248,
+                                                      0x63FF, 0x7BFF, 0x7C00, 0x7C01, 0x7E00, 0x7FFF};
   std::vector<std::uint16_t> all;
   for (const std::uint16_t p : positive) {
     all.push_back(p);
@@ -123,23 +130,22 @@ struct inputs;
 
 template <class T>
 requires(sizeof(T) == 2 && !std::same_as<T, short>) struct inputs<T> {  // a half under any of its names
-  static T make(std::uint16_t p) { return std::bit_cast<T>(p); }
-  static std::vector<T> sweep() {
+  static std::vector<T> ofPatterns(std::vector<std::uint16_t> const& patterns) {
     std::vector<T> all;
-    for (std::uint32_t p = 0; p < 0x10000; ++p) all.push_back(make(static_cast<std::uint16_t>(p)));
+    for (const std::uint16_t p : patterns) all.push_back(std::bit_cast<T>(p));
     return all;
   }
-  static std::vector<T> notable() {
-    std::vector<T> all;
-    for (const std::uint16_t p : notablePatterns()) all.push_back(make(p));
-    return all;
-  }
+  static std::vector<T> sweep() { return ofPatterns(nearUnderflow ? underflowPatternSweep() : everyPattern()); }
+  static std::vector<T> notable() { return ofPatterns(nearUnderflow ? underflowPatterns() : notablePatterns()); }
+  static std::vector<T> parts() { return ofPatterns(nearUnderflow ? underflowPartPatterns() : notablePatterns()); }
 };
 
 template <std::floating_point T>
 struct inputs<T> {
-  static std::vector<T> sweep() { return floatingSweep<T>(); }
+  static std::vector<T> parts() { return nearUnderflow ? underflowParts<T>() : notable(); }
+  static std::vector<T> sweep() { return nearUnderflow ? underflowNumberSweep<T>() : floatingSweep<T>(); }
   static std::vector<T> notable() {
+    if (nearUnderflow) return underflowNumbers<T>();
     std::vector<T> all;
     for (const std::uint16_t p : notablePatterns())
       if (pattern::isFinite(p)) all.push_back(static_cast<T>(valueOfPattern(p)));
@@ -155,6 +161,7 @@ struct inputs<T> {
 template <class T>
 requires(std::integral<T> && !std::same_as<T, bool> && !std::same_as<T, unsigned short>) struct inputs<T> {
   static std::vector<T> sweep() { return integerSweep<T>(); }
+  static std::vector<T> parts() { return notable(); }
   static std::vector<T> notable() {
     std::vector<T> all;
     for (int i = -4; i <= 4; ++i) all.push_back(static_cast<T>(i));
@@ -172,19 +179,21 @@ struct inputs<bool> {
   static std::vector<unsigned char> notable() { return {0, 1, 2, 128, 255}; }
 };
 
-// Every pattern as a real part, with another in no visible order beside it; then all pairs of notable ones.
+// Every pattern as a real part, with another in no visible order beside it; then all pairs of notable ones. parts() are
+// what notable parts are.
 template <class T>
 struct inputs<std::complex<T>> {
   static std::vector<std::complex<T>> sweep() {
     const auto parts = inputs<T>::sweep();
     std::vector<std::complex<T>> all;
-    for (std::size_t i = 0; i < parts.size(); ++i) all.emplace_back(parts[i], parts[(i * 40503 + 12345) % parts.size()]);
+    for (std::size_t i = 0; i < parts.size(); ++i)
+      all.emplace_back(parts[i], parts[(i * 40503 + 12345) % parts.size()]);
     const auto special = notable();
     all.insert(all.end(), special.begin(), special.end());
     return all;
   }
   static std::vector<std::complex<T>> notable() {
-    const auto parts = inputs<T>::notable();
+    const auto parts = inputs<T>::parts();
     std::vector<std::complex<T>> all;
     for (const T re : parts)
       for (const T im : parts) all.emplace_back(re, im);

@@ -13,8 +13,21 @@
 #include <vector>
 
 #include "tests/golden/inputs.h"
+#include "tests/support/flushed.h"
 
 namespace zthalf::golden {
+
+// How the functions are called. Their inputs are made in the ordinary environment always.
+inline bool callsAreFlushed = false;
+inline bool callsAreWatched = false;
+inline bool metSubnormals = false;  // a watched call did
+
+template <class Function, class... Args>
+decltype(auto) called(Function function, Args... args) {
+  const testing::flushedScope environment(callsAreFlushed);
+  const testing::subnormalWatch watch(callsAreWatched ? &metSubnormals : nullptr);
+  return function(args...);
+}
 
 // What a number of type T is made of: of numbers in one piece.
 template <class T>
@@ -43,7 +56,8 @@ class resultHash {
   }
 
   void print(std::string_view name) const {
-    std::printf("%-60.*s %8llu %016llx\n", static_cast<int>(name.size()), name.data(), count_, hash_);
+    char const* const mark = std::exchange(metSubnormals, false) ? "*" : "";
+    std::printf("%-60.*s %8llu %016llx%s\n", static_cast<int>(name.size()), name.data(), count_, hash_, mark);
   }
 
  private:
@@ -57,13 +71,15 @@ T* as(storage<T>* array) {
   return reinterpret_cast<T*>(array);
 }
 
-// At most this many notable values of each operand meet in a grid.
+// At most this many notable values of each operand meet in a grid; around underflow, all do.
 inline constexpr std::size_t gridSide = 48;
+inline constexpr std::size_t underflowGridSide = 256;
 
 template <class T>
 auto gridOf() {
   const auto all = inputs<T>::notable();
-  const std::size_t step = (all.size() + gridSide - 1) / gridSide;
+  const std::size_t side = nearUnderflow ? underflowGridSide : gridSide;
+  const std::size_t step = (all.size() + side - 1) / side;
   std::vector<storage<T>> some;
   for (std::size_t i = 0; i < all.size(); i += step) some.push_back(all[i]);
   return some;
@@ -85,7 +101,7 @@ template <class In, class Out>
 void sweep(std::string_view name, void (*entry)(In*, Out*, unsigned long)) {
   auto src = inputs<In>::sweep();
   std::vector<storage<Out>> dst(src.size());
-  entry(as<In>(src.data()), as<Out>(dst.data()), src.size());
+  called(entry, as<In>(src.data()), as<Out>(dst.data()), src.size());
   resultHash hash;
   hash.add(dst.data(), dst.size());
   hash.print(name);
@@ -99,13 +115,13 @@ void sweep(std::string_view name, bool (*entry)(In*, Out*, unsigned long)) {
   resultHash hash;
   for (auto& x : src) {
     storage<Out> result{};
-    const bool done = entry(as<In>(&x), as<Out>(&result), 1);
+    const bool done = called(entry, as<In>(&x), as<Out>(&result), 1);
     hash.add(result);
     hash.add(done);
     if (done) passing.push_back(x);
   }
   std::vector<storage<Out>> dst(passing.size());
-  hash.add(entry(as<In>(passing.data()), as<Out>(dst.data()), passing.size()));
+  hash.add(called(entry, as<In>(passing.data()), as<Out>(dst.data()), passing.size()));
   hash.add(dst.data(), dst.size());
   hash.print(name);
 }
@@ -115,8 +131,8 @@ template <class In>
 void sweep(std::string_view name, bool (*entry)(In*, unsigned long)) {
   auto src = inputs<In>::sweep();
   resultHash hash;
-  for (auto& x : src) hash.add(entry(as<In>(&x), 1));
-  hash.add(entry(as<In>(src.data()), src.size()));
+  for (auto& x : src) hash.add(called(entry, as<In>(&x), 1));
+  hash.add(called(entry, as<In>(src.data()), src.size()));
   hash.print(name);
 }
 
@@ -125,7 +141,7 @@ template <class In, class Out>
 void sweepTwoOutputs(std::string_view name, void (*entry)(In*, Out*, Out*, unsigned long)) {
   auto src = inputs<In>::sweep();
   std::vector<storage<Out>> first(src.size()), second(src.size());
-  entry(as<In>(src.data()), as<Out>(first.data()), as<Out>(second.data()), src.size());
+  called(entry, as<In>(src.data()), as<Out>(first.data()), as<Out>(second.data()), src.size());
   resultHash hash;
   hash.add(first.data(), first.size());
   hash.add(second.data(), second.size());
@@ -138,7 +154,7 @@ void sweep(std::string_view name, void (*entry)(Left*, Right*, Out*, unsigned lo
   auto a = meetingOf<Left>(meetings, 1);
   auto b = meetingOf<Right>(meetings, 25173);
   std::vector<storage<Out>> c(meetings);
-  entry(as<Left>(a.data()), as<Right>(b.data()), as<Out>(c.data()), meetings);
+  called(entry, as<Left>(a.data()), as<Right>(b.data()), as<Out>(c.data()), meetings);
   resultHash hash;
   hash.add(c.data(), c.size());
   hash.print(name);
@@ -159,8 +175,8 @@ void sweep(std::string_view name, expandingBinary<Result, Left, Right, Out> entr
     const unsigned long dimsC[] = {std::max(dimsA[0], dimsB[0]), std::max(dimsA[1], dimsB[1])};
     std::vector<storage<Out>> c(dimsC[0] * dimsC[1]);
     const auto call = [&] {
-      return entry(as<Left>(a.data()), as<Right>(b.data()), as<Out>(c.data()), a.size(), 2, dimsA, b.size(), 2, dimsB,
-                   c.size(), 2, dimsC);
+      return called(entry, as<Left>(a.data()), as<Right>(b.data()), as<Out>(c.data()), a.size(), 2, dimsA, b.size(), 2,
+                    dimsB, c.size(), 2, dimsC);
     };
     if constexpr (std::is_void_v<Result>) {
       call();
@@ -180,27 +196,33 @@ void sweep(std::string_view name, expandingBinary<Result, Left, Right, Out> entr
   hash.print(name);
 }
 
-// Whether all parts lie between 1/2 and 2: chains of them stay in the range of half for a while.
-template <class In>
-bool isModerate(In const& element) {
-  std::uint16_t parts[sizeof(In) / sizeof(std::uint16_t)];
-  std::memcpy(parts, &element, sizeof parts);
-  return std::all_of(std::begin(parts), std::end(parts), [](std::uint16_t p) { return (p & 0x7800) == 0x3800; });
+// The inputs all of whose parts are such numbers.
+template <class In, class Test>
+std::vector<storage<In>> inputsOf(Test isWanted) {
+  std::vector<storage<In>> some;
+  for (storage<In> const& element : inputs<In>::sweep()) {
+    std::uint16_t parts[sizeof(In) / sizeof(std::uint16_t)];
+    std::memcpy(parts, &element, sizeof parts);
+    if (std::all_of(std::begin(parts), std::end(parts), isWanted)) some.push_back(element);
+  }
+  return some;
 }
 
-// What is reduced: moderate numbers, and at every so many places anything. With 1 there is nothing else, with 0 nothing
-// but numbers.
+// Between 1/2 and 2: chains of them stay in the range of half for a while.
+inline bool isModerate(std::uint16_t p) { return (p & 0x7800) == 0x3800; }
+
+// What is reduced: moderate numbers, or waves down to underflow and back, and at every so many places anything. With 1
+// there is nothing else, with 0 nothing but numbers.
 template <class In>
 std::vector<storage<In>> reductionData(std::size_t count, std::size_t every) {
   static const auto all = inputs<In>::sweep();
-  static const auto moderate = [] {
-    std::vector<storage<In>> some;
-    std::copy_if(all.begin(), all.end(), std::back_inserter(some), isModerate<storage<In>>);
-    return some;
-  }();
+  static const auto down = inputsOf<In>(nearUnderflow ? isStepDown : isModerate);
+  static const auto up = nearUnderflow ? inputsOf<In>(isStepUp) : down;
+  constexpr std::size_t many = sizeof(In) > sizeof(half_t) ? complexStepsInDouble : stepsInDouble;
   std::vector<storage<In>> some(count);
   for (std::size_t i = 0; i < count; ++i) {
-    auto const& from = every != 0 && i % every == every - 1 ? all : moderate;
+    auto const& numbers = goesDown(i, every > 1 ? many : stepsInSingle) ? down : up;
+    auto const& from = every != 0 && i % every == every - 1 ? all : numbers;
     some[i] = from[(i * 25173 + i / from.size()) % from.size()];
   }
   return some;
@@ -243,7 +265,7 @@ void sweepReduction(std::string_view name, void (*entry)(In*, Out*, unsigned lon
   resultHash hash;
   sweepWholeReductions<In>([&](std::vector<storage<In>> src) {
     storage<Out> result{};
-    entry(as<In>(src.data()), as<Out>(&result), src.size());
+    called(entry, as<In>(src.data()), as<Out>(&result), src.size());
     hash.add(result);
   });
   hash.print(name);
@@ -255,7 +277,7 @@ void sweepReduction(std::string_view name, void (*entry)(In*, Out*, unsigned lon
   sweepReductionsAlongDimensions<In>(
       [&](std::vector<storage<In>> src, std::vector<unsigned long>& dims, bool firstReduced, unsigned long outputs) {
         std::vector<storage<Out>> results(outputs);
-        entry(as<In>(src.data()), as<Out>(results.data()), dims.size(), dims.data(), firstReduced);
+        called(entry, as<In>(src.data()), as<Out>(results.data()), dims.size(), dims.data(), firstReduced);
         hash.add(results.data(), results.size());
       });
   hash.print(name);
@@ -268,7 +290,7 @@ void sweepReduction(std::string_view name, void (*entry)(In*, Out*, double*, uns
   sweepWholeReductions<In>([&](std::vector<storage<In>> src) {
     storage<Out> result{};
     double index = 0;
-    entry(as<In>(src.data()), as<Out>(&result), &index, src.size());
+    called(entry, as<In>(src.data()), as<Out>(&result), &index, src.size());
     hash.add(result);
     hash.add(index);
   });
@@ -284,8 +306,8 @@ void sweepReduction(std::string_view name,
         for (const bool linear : {false, true}) {
           std::vector<storage<Out>> results(outputs);
           std::vector<double> indices(outputs);
-          entry(as<In>(src.data()), as<Out>(results.data()), indices.data(), dims.size(), dims.data(), firstReduced,
-                linear);
+          called(entry, as<In>(src.data()), as<Out>(results.data()), indices.data(), dims.size(), dims.data(),
+                 firstReduced, linear);
           hash.add(results.data(), results.size());
           hash.add(indices.data(), indices.size());
         }
@@ -305,8 +327,8 @@ void sweep(std::string_view name, expandingTernary<A, B, C, Out> entry) {
   const auto meet = [&](std::vector<storage<A>> a, std::vector<storage<B>> b, std::vector<storage<C>> c, sizes dimsA,
                         sizes dimsB, sizes dimsC, sizes dimsOut) {
     std::vector<storage<Out>> d(dimsOut[0] * dimsOut[1] * dimsOut[2]);
-    entry(as<A>(a.data()), as<B>(b.data()), as<C>(c.data()), as<Out>(d.data()), a.size(), 3, dimsA, b.size(), 3, dimsB,
-          c.size(), 3, dimsC, d.size(), 3, dimsOut);
+    called(entry, as<A>(a.data()), as<B>(b.data()), as<C>(c.data()), as<Out>(d.data()), a.size(), 3, dimsA, b.size(), 3,
+           dimsB, c.size(), 3, dimsC, d.size(), 3, dimsOut);
     hash.add(d.data(), d.size());
   };
   const unsigned long flat[] = {meetings, 1, 1};
@@ -341,13 +363,13 @@ template <class... Args, class Function>
 void sweepScalar(std::string_view name, Function f) {
   resultHash hash;
   if constexpr (sizeof...(Args) == 1) {
-    for (auto const& x : inputs<Args...>::sweep()) hash.add(f(static_cast<Args>(x)...));
+    for (auto const& x : inputs<Args...>::sweep()) hash.add(called(f, static_cast<Args>(x)...));
   } else {
     std::size_t multiplier = 1;
     const auto met = std::tuple{meetingOf<Args>(meetings, std::exchange(multiplier, multiplier * 25173))...};
     for (std::size_t i = 0; i < meetings; ++i)
-      hash.add(std::apply([&](auto const&... list) { return f(static_cast<Args>(list[i])...); }, met));
-    forEachPoint<Args...>(std::tuple{gridOf<Args>()...}, [&](Args... x) { hash.add(f(x...)); });
+      hash.add(std::apply([&](auto const&... list) { return called(f, static_cast<Args>(list[i])...); }, met));
+    forEachPoint<Args...>(std::tuple{gridOf<Args>()...}, [&](Args... x) { hash.add(called(f, x...)); });
   }
   hash.print(name);
 }
