@@ -46,17 +46,19 @@ std::string textReport(report const& r, terminal const& out) {
   std::string text;
   bool onlySummaries = true;
   for (fileReport const& file : r.files) {
-    const std::string title =
-        file.name + ": " + counted(file.rows, "row") + ", " + counted(file.columns, "numeric column");
+    const bool isSummary = file.sections.empty();
+    const bool namesSkipped = !isSummary || file.skipped.size() <= 2;  // more of them take the room of other things
+    std::string title = file.name + ": " + counted(file.rows, "row") + ", " + counted(file.columns, "numeric column");
+    if (!namesSkipped) title += ", " + std::to_string(file.skipped.size()) + " skipped";
     text += emphasised(wrapped(title, 0, out), emphasis::title, out);
     text += std::string(std::min(displayWidth(title), out.width), '=') + '\n';
-    if (!file.skipped.empty()) text += wrapped(skippedText(file.skipped), 0, out);
-    if (file.sections.empty())
+    if (namesSkipped && !file.skipped.empty()) text += wrapped(skippedText(file.skipped), 0, out);
+    if (isSummary)
       text += summaryText(file.inShort, out);
     else
       text += '\n';
     for (section const& s : file.sections) text += sectionText(s, out);
-    onlySummaries = onlySummaries && file.sections.empty();
+    onlySummaries = onlySummaries && isSummary;
   }
   if (r.speed) text += sectionText(*r.speed, out);
   if (onlySummaries)

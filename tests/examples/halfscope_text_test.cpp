@@ -83,7 +83,7 @@ TEST(Summary, OfAFileFitsOnAScreen) {
   std::string header = "a", row = "0.1";  // many columns with all kinds of findings
   for (int i = 0; i < 100; ++i) {
     header.append(",a rather long name for column ").append(std::to_string(i));
-    row.append(i % 3 == 0 ? ",1e9" : i % 3 == 1 ? ",1e-9" : ",0.7");
+    row.append(i % 4 == 0 ? ",1e9" : i % 4 == 1 ? ",1e-9" : i % 4 == 2 ? ",0.7" : ",text");
   }
   const auto result = look(header.append("\n").append(row).append("\n").append(row), {}, columnsAre(80));
   EXPECT_EQ(result.status, 0) << result.err;
