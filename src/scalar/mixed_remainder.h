@@ -18,9 +18,18 @@ namespace zthalf {
 // has a fraction: such a y may have been rounded when it was stored. The distance from the rounded quotient to the
 // nearest integer is compared with one epsilon of the quotient; a quotient beyond the type's range counts as an
 // integer.
+//
+// So does a quotient that is rounded to zero. That one is told by the last places in x: the processor may be set to
+// flush all subnormal numbers to zero, which must not change the answer. An x that small is no half, so y is one.
 template <class Wide>
 bool dividesWithinTolerance(Wide x, Wide y) {
+  using format = formatOf<Wide>;
   if (y == std::trunc(y)) return false;
+  const auto magnitudeX = bitsOf(std::abs(x));
+  if (magnitudeX < bitsOf(Wide(0x1p-60))) {
+    return magnitudeX >> format::fractionWidth == 0 &&
+           static_cast<Wide>(static_cast<std::int64_t>(magnitudeX)) <= std::abs(y) * Wide(0.5);
+  }
   const Wide quotient = x / y;
   const Wide nearest = std::round(quotient);
   const Wide distance = std::abs(quotient - nearest);
@@ -29,13 +38,13 @@ bool dividesWithinTolerance(Wide x, Wide y) {
 }
 
 // The remainder with the sign of x, rounded to half. An infinite x and a zero y are invalid and give 0x7E00; a NaN
-// gives 0x7E00 with its sign.
+// gives 0x7E00 with its sign. Whether y is zero is asked of its bits, since a flushed subnormal counts as zero as well.
 template <class Wide>
 std::uint16_t remOfWide(Wide x, Wide y) {
   const Wide magnitudeX = std::abs(x);
   const Wide magnitudeY = std::abs(y);
   constexpr Wide largest = std::numeric_limits<Wide>::max();
-  if (!(magnitudeX <= largest) || y == 0 || y != y) return narrow(settled(defaultNaN<Wide>, x, y));
+  if (!(magnitudeX <= largest) || bitsOf(magnitudeY) == 0 || y != y) return narrow(settled(defaultNaN<Wide>, x, y));
 
   Wide remainder = magnitudeX < magnitudeY ? magnitudeX : qsl_scalar::exactRemainder(magnitudeX, magnitudeY);
   if (remainder != 0 && magnitudeY <= largest && dividesWithinTolerance(x, y)) remainder = 0;

@@ -21,7 +21,8 @@ def main(source):
     os.chdir(source)
     library.run('cmake', '--preset', 'aarch64')
     library.run('cmake', '--build', '--preset', 'aarch64', '--target', 'result_sweep')
-    print(library.run('ctest', '--test-dir', 'build/aarch64', '--verbose', '-R', '^golden/results@base$', '--no-tests=error'))
+    tests = '^golden/(results|flushed)@base$'
+    print(library.run('ctest', '--test-dir', 'build/aarch64', '--verbose', '-R', tests, '--no-tests=error'))
 
 
 if __name__ == '__main__':

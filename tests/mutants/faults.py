@@ -34,6 +34,15 @@ FAULTS = [
     Fault('0.5 is rounded to the integer 0', INTEGER,
           'widen<float>(finite) + 0.5f', 'widen<float>(finite) + 0.49999997f', '^core/integer'),
 
+    # Flushed subnormals
+    Fault('small halves widen by way of subnormal floats', FLOAT,
+          'floatOf(magnitude + smallestNormal) - floatOf(smallestNormal)', 'floatOf(magnitude) * 0x1p112f',
+          '^elementwise/flushed_halves'),
+    Fault('a subnormal divisor counts as zero where it is flushed', 'src/scalar/mixed_remainder.h',
+          'bitsOf(magnitudeY) == 0', 'y == 0', '^elementwise/flushed_examples'),
+    Fault('a flushed remainder loses its sign', 'src/scalar/kernels/mod.cpp',
+          'std::copysign(y + signedRemainder, y)', 'y + signedRemainder', '^elementwise/flushed_examples'),
+
     # NaNs
     Fault('an invalid operation gives the processor\'s NaN', FLOAT,
           'parts.sign & ~parts.isNaN', 'parts.sign', '^(core/nan|scalar/half)'),

@@ -1,5 +1,7 @@
 #include "scalar/kernels/mod.h"
 
+#include <cmath>
+
 #include "core/bits.h"
 #include "core/float_conversion.h"
 #include "scalar/kernels/exact_remainder.h"
@@ -37,7 +39,8 @@ Wide modOf(Wide x, Wide y) {
   const word remainder = bitsOf(exactRemainder(valueOf(magnitudeX), valueOf(magnitudeY)));
   if (remainder == 0) return zero;
   const Wide signedRemainder = valueOf(remainder | signOfX);
-  return signsAgree ? signedRemainder : y + signedRemainder;
+  // The sum is between zero and y; where subnormals are flushed it would lose the sign.
+  return signsAgree ? signedRemainder : std::copysign(y + signedRemainder, y);
 }
 
 }  // namespace
