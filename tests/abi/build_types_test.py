@@ -15,7 +15,7 @@ DISTRIBUTION = '-O2 -g'
 SAMPLES = ('src/frame/rounding_unary.cpp', 'src/frame/bitwise_unary.cpp')
 
 CHANGES_BITS = ('-ffast-math', '-Ofast', '-O2 -funsafe-math-optimizations', '-mfpmath=387', '-ffp-model=fast')
-CHANGES_NOTHING = ('-mtune=generic', '-ffp-contract=fast', '-fno-fast-math', '-fno-plt -ffunction-sections')
+CHANGES_NOTHING = '-mtune=generic -ffp-contract=fast -fno-fast-math -fno-plt -ffunction-sections'
 NAMES_PROCESSOR = ('-march=nocona -mtune=haswell', '-march=x86-64-v2', '-O2 -mfma')
 
 
@@ -93,7 +93,7 @@ def main(source, compiler):
         fresh = Tree(source, os.path.join(work, 'fresh'), compiler)
         status, output = fresh.configure('-DZTHALF_BUILD_TESTS=OFF', CXXFLAGS='-O2 -ffast-math')
         report.require(status != 0 and "'-ffast-math' would" in output, 'taken from the environment: ' + output)
-        for flags in CHANGES_NOTHING + NAMES_PROCESSOR:
+        for flags in (CHANGES_NOTHING,) + NAMES_PROCESSOR:
             status, output = tree.configure('-DCMAKE_CXX_FLAGS=' + flags)
             warned = 'changes no result' in output
             report.require(status == 0, '%s was refused: %s' % (flags, output))
