@@ -66,7 +66,8 @@ ZTHALF_API void rdivide(Left*, Right*, Out*, unsigned long, unsigned long, unsig
 ///   sums:        +0 is added to the imaginary part;
 ///   differences: z - x keeps the imaginary part bit for bit, x - z takes it from +0;
 ///   products:    zero parts of z are not multiplied; of two NaNs the one in z goes before a real one;
-///   quotients:   z / x divides zero parts too; but by a zero x, a zero imaginary part gives +0, and so does a zero real
+///   quotients:   z / x divides zero parts too; but by a zero x, a zero imaginary part gives +0, and so does a zero
+///   real
 ///                part beside an imaginary part that is not zero. x over an imaginary z has a real part of zero with
 ///                the sign of the divisor.
 /// Conversions from other complex numbers, and operators with other numbers, do not compile.
