@@ -65,10 +65,10 @@ ZTHALF_API void rdivide(Left*, Right*, Out*, unsigned long, unsigned long, unsig
 /// differ from the result with a complex operand whose imaginary part is +0:
 ///   sums:        +0 is added to the imaginary part;
 ///   differences: z - x keeps the imaginary part bit for bit, x - z takes it from +0;
-///   products:    a part of z that is zero is not multiplied and gives +0;
-///   quotients:   z / x divides part by part; where x is zero, a zero imaginary part gives +0, and so does a zero real
-///                part beside an imaginary part that is not. x over an imaginary z has a zero real part with the sign
-///                of the divisor, and the sign of a zero x is kept in the imaginary part.
+///   products:    zero parts of z are not multiplied; of two NaNs the one in z goes before a real one;
+///   quotients:   z / x divides zero parts too; but by a zero x, a zero imaginary part gives +0, and so does a zero
+///                real part beside an imaginary part that is not zero. x over an imaginary z has a real part of zero
+///                with the sign of the divisor.
 /// Conversions from other complex numbers, and operators with other numbers, do not compile.
 template <>
 class std::complex<half_t> {
