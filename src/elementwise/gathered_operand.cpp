@@ -1,6 +1,7 @@
 #include "elementwise/gathered_operand.h"
 
 #include <algorithm>
+#include <bit>
 #include <cstdint>
 #include <cstring>
 
@@ -36,8 +37,9 @@ template <class Element>
 std::uint64_t eightBytesOf(Element const& element, std::size_t from) {
   std::uint64_t word = 0;
   constexpr std::size_t size = std::min(sizeof(Element), sizeof word);
-  std::memcpy(&word, element.bytes + from, size);
-  for (std::size_t filled = size; filled < sizeof word; filled *= 2) word |= word << (8 * filled);
+  std::memcpy(&word, element.bytes + from, size);  // the first bytes in memory are the lowest or the highest
+  for (std::size_t filled = size; filled < sizeof word; filled *= 2)
+    word |= std::endian::native == std::endian::little ? word << (8 * filled) : word >> (8 * filled);
   return word;
 }
 
