@@ -38,17 +38,17 @@ void inCancelledGroup(anyCall call) {
 
 // The other task begins to count when the call does. It may have to wait for a thread, and comes too late then.
 void besideDisturbance(disturbance kind, std::chrono::nanoseconds after, anyCall call) {
-  half_utils::taskOrder order;
   tbb::task_group group;
   std::atomic<bool> hasBegun = false;
-  group.run([&] {
-    while (!hasBegun) {
-    }
-    spin(after);
-    if (kind == disturbance::thrown) throw disturbed();
-    group.cancel();
-  });
   try {
+    half_utils::taskOrder order;
+    group.run(order.inTask([&] {
+      while (!hasBegun) {
+      }
+      spin(after);
+      if (kind == disturbance::thrown) throw disturbed();
+      group.cancel();
+    }));
     group.run_and_wait(order.inTask([&] {
       hasBegun = true;
       call();
