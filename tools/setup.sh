@@ -5,9 +5,17 @@
 #                               they cannot be installed it prints the line that would do it and exits with status 2
 #   setup_try cross             the same for a group that one can do without: returns 1 and leaves the reason in
 #                               setup_reason
+#   setup_compiler_cache        builds go through ccache if it is there
 #
 # Where every package is there, neither prints nor changes anything. With ZTHALF_NO_SETUP set to anything but the empty
 # string nothing is looked at: for machines whose tools do not come from Debian packages.
+
+# With a compiler cache, where there is one, a second build is short. CMake takes this from the environment.
+setup_compiler_cache() {
+  if [ -z "${CMAKE_CXX_COMPILER_LAUNCHER:-}" ] && command -v ccache >/dev/null; then
+    export CMAKE_CXX_COMPILER_LAUNCHER=ccache
+  fi
+}
 
 setup_packages() {
   local group

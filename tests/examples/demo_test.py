@@ -16,7 +16,7 @@ from pathlib import Path
 PROJECT, PROGRAM = Path(sys.argv[1]), sys.argv[2]
 
 CMAKE = """#!/bin/sh
-echo "$@" >>"$CALLS"
+echo "through ${CMAKE_CXX_COMPILER_LAUNCHER:-nothing}: $@" >>"$CALLS"
 case $1 in
   --build)
     [ -z "$FAIL_AT" ] || { echo "[1/2] Building a"; echo "a.cpp:1: error: no"; exit 1; }
@@ -31,14 +31,15 @@ class Demo(unittest.TestCase):
         self.folder = Path(tempfile.mkdtemp(prefix="zthalf-demo-"))
         self.addCleanup(shutil.rmtree, self.folder)
         self.tree = self.folder / "tree"
-        for name in ("demo", "CMakeLists.txt", "CMakePresets.json", "examples/halfscope/help.txt"):
+        for name in ("demo", "CMakeLists.txt", "CMakePresets.json", "examples/halfscope/help.txt", "tools/setup.sh",
+                     "include/zthalf/version.h"):
             (self.tree / name).parent.mkdir(parents=True, exist_ok=True)
             shutil.copy2(PROJECT / name, self.tree / name)
-        for name in ("cmake", "include", "src", "tools"):
+        for name in ("cmake", "src"):
             (self.tree / name).mkdir()
-        (self.tree / "tools/setup.sh").write_text("setup_require() { :; }\n")
         self.tool("cmake", CMAKE)
-        self.environment = dict(os.environ, PATH=f"{self.folder}/bin:{os.environ['PATH']}", CALLS=str(self.calls))
+        self.environment = dict(os.environ, PATH=f"{self.folder}/bin:{os.environ['PATH']}", CALLS=str(self.calls),
+                                ZTHALF_NO_SETUP="1")
         for name in ("CMAKE_CXX_COMPILER_LAUNCHER", "FAIL_AT"):
             self.environment.pop(name, None)
 
@@ -99,8 +100,8 @@ class Demo(unittest.TestCase):
         self.assertEqual(len(tenths), 20)  # ten of each of the two builds
         self.assertTrue(tenths[0].startswith("2 of 20, "))
         self.assertNotIn("Building 1", result.stderr)
-        configured = [line for line in self.calls.read_text().splitlines() if "-DCMAKE_CXX_COMPILER_LAUNCHER=ccache" in line]
-        self.assertEqual(len(configured), 2)
+        for line in self.calls.read_text().splitlines():
+            self.assertTrue(line.startswith("through ccache: "), line)
         self.calls.unlink()
         again = self.demo("--version", "--json", "-")
         self.assertEqual(again.returncode, 0)
@@ -111,7 +112,20 @@ class Demo(unittest.TestCase):
     def test_keeps_another_launcher(self):
         self.tool("ccache", "#!/bin/sh\n")
         self.assertEqual(self.demo(CMAKE_CXX_COMPILER_LAUNCHER="other").returncode, 0)
-        self.assertNotIn("LAUNCHER", self.calls.read_text())
+        for line in self.calls.read_text().splitlines():
+            self.assertTrue(line.startswith("through other: "), line)
+
+    def test_builds_the_library_where_the_tests_do(self):
+        self.demo()
+        calls = self.calls.read_text()
+        self.assertIn("--preset release", calls)
+        self.assertIn("-DZTHALF_BUILD_TESTS=OFF", calls)
+        self.assertIn(f"--build {self.tree}/build/release --target zthalf\n", calls)
+        self.calls.unlink()
+        (self.tree / "build/release/CMakeCache.txt").write_text("")  # ./test was here
+        (self.tree / "build/demo/up-to-date").unlink()
+        self.demo()
+        self.assertNotIn("ZTHALF_BUILD_TESTS", self.calls.read_text())
 
     def test_shows_what_failed(self):
         result = self.demo(FAIL_AT="1")
