@@ -47,7 +47,7 @@ void coldRows(std::string const& function, std::initializer_list<unsigned long> 
     coldRow<Ftor>(
         "cold-" + function + "/table" + end, n, [] {}, half_utils::lookUpFtor<Ftor>{});
     for (ownSubject const& own : ownSubjects()) {
-      if (zthalf::earnsLevels<Ftor> || &own == &ownSubjects().front())
+      if (zthalf::earnsLevelsFor<Ftor, fp16binary_t> || &own == &ownSubjects().front())
         coldRow<Ftor>("cold-" + function + "/" + own.name + end, n, own.select, Ftor{});
     }
   }

@@ -12,55 +12,9 @@
 /// other threads.
 namespace half_ptr {
 
-#define ZTHALF_DECLARE_UNARY(entry, facade, In, Out, ...) \
-  extern ZTHALF_API unary_entry<half::element::In, half::element::Out>* entry##Ptr;
-#define ZTHALF_DECLARE_EARLY_EXIT(entry, facade, In, Out, function) \
-  extern ZTHALF_API early_exit_entry<half::element::In, half::element::Out>* entry##Ptr;
-#define ZTHALF_DECLARE_TWO_OUT(entry, facade, In, Out, function) \
-  extern ZTHALF_API two_out_entry<half::element::In, half::element::Out>* entry##Ptr;
-#define ZTHALF_DECLARE_QUERY(entry, facade, In, instance) extern ZTHALF_API query_entry<half::storage::In>* entry##Ptr;
-#define ZTHALF_DECLARE_BINARY(op, Left, Right, Out) \
-  extern ZTHALF_API binary_entry<half::element::Left, half::element::Right, half::element::Out>* op##Left##Right##Ptr;
-#define ZTHALF_DECLARE_SIMPLE_REDUCTION(entry, facade, function, In, Out, Accumulator) \
-  extern ZTHALF_API unary_entry<half::element::In, half::element::Out>* entry##Ptr;
-#define ZTHALF_DECLARE_REDUCTION(entry, facade, function, In, Out, Accumulator) \
-  extern ZTHALF_API reduction_entry<half::element::In, half::element::Out>* entry##Ptr;
-
-#define ZTHALF_DECLARE_REMAINDER(op, Left, Right, Out) \
-  extern ZTHALF_API binary_entry<half::storage::Left, half::storage::Right, half::storage::Out>* op##Left##Right##Ptr;
-#define ZTHALF_DECLARE_COMPARISON(entry, op, Left, Right) \
-  extern ZTHALF_API binary_entry<half::element::Left, half::element::Right, bool>* entry##Ptr;
-#define ZTHALF_DECLARE_TERNARY(op, A, B, C, Out)                                                             \
-  extern ZTHALF_API ternary_entry<half::element::A, half::element::B, half::element::C, half::element::Out>* \
-      op##A##B##C##Ptr;
-#define ZTHALF_DECLARE_EXTREMUM(entry, shape, Element, Accumulator, function) \
-  extern ZTHALF_API shape##_entry<half::element::Element, half::element::Element>* entry##Ptr;
-
-ZTHALF_UNARY_ENTRIES(ZTHALF_DECLARE_UNARY)
-ZTHALF_EARLY_EXIT_ENTRIES(ZTHALF_DECLARE_EARLY_EXIT)
-ZTHALF_TWO_OUT_ENTRIES(ZTHALF_DECLARE_TWO_OUT)
-ZTHALF_QUERY_ENTRIES(ZTHALF_DECLARE_QUERY)
-ZTHALF_BINARY_ENTRIES(ZTHALF_DECLARE_BINARY)
-ZTHALF_REMAINDER_ENTRIES(ZTHALF_DECLARE_REMAINDER)
-ZTHALF_SIMPLE_REDUCTION_ENTRIES(ZTHALF_DECLARE_SIMPLE_REDUCTION)
-ZTHALF_SIMPLE_OMITNAN_REDUCTION_ENTRIES(ZTHALF_DECLARE_SIMPLE_REDUCTION)
-ZTHALF_REDUCTION_ENTRIES(ZTHALF_DECLARE_REDUCTION)
-ZTHALF_COMPARISON_ENTRIES(ZTHALF_DECLARE_COMPARISON)
-ZTHALF_FMA_ENTRIES(ZTHALF_DECLARE_TERNARY)
-ZTHALF_CHOSEN_BINARY_ENTRIES(ZTHALF_DECLARE_BINARY)
-ZTHALF_EXTREMUM_REDUCTION_ENTRIES(ZTHALF_DECLARE_EXTREMUM)
-
-#undef ZTHALF_DECLARE_UNARY
-#undef ZTHALF_DECLARE_EARLY_EXIT
-#undef ZTHALF_DECLARE_TWO_OUT
-#undef ZTHALF_DECLARE_QUERY
-#undef ZTHALF_DECLARE_BINARY
-#undef ZTHALF_DECLARE_REMAINDER
-#undef ZTHALF_DECLARE_SIMPLE_REDUCTION
-#undef ZTHALF_DECLARE_REDUCTION
-#undef ZTHALF_DECLARE_COMPARISON
-#undef ZTHALF_DECLARE_TERNARY
-#undef ZTHALF_DECLARE_EXTREMUM
+#define ZTHALF_ROW(entry, signature, ...) extern ZTHALF_API signature* entry##Ptr;
+ZTHALF_TABLE
+#undef ZTHALF_ROW
 
 /// 0 when the library is loaded, 1 from the first VLInitialize_half or CPU_Dispatch on. No operation reads it.
 extern ZTHALF_API unsigned char initialized;

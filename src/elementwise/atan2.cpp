@@ -1,18 +1,16 @@
+#include "core/instantiate.h"
+#include "core/shape_parameters.h"
 #include "elementwise/binary_op.h"
-#include "elementwise/instantiate.h"
 #include "scalar/functors/two_argument_functors.h"
 #include "zthalf/half_ops.h"
 
 namespace half {
 
 template <class Left, class Right, class Out>
-void atan2(Left* a, Right* b, Out* c, unsigned long na, unsigned long ndimsA, unsigned long const* dimsA,
-           unsigned long nb, unsigned long ndimsB, unsigned long const* dimsB, unsigned long nc, unsigned long ndimsC,
-           unsigned long const* dimsC) {
-  half_utils::halfBinaryOp<scalar::emulated::atan2Ftor>(a, b, c, na, ndimsA, dimsA, nb, ndimsB, dimsB, nc, ndimsC,
-                                                        dimsC);
+void atan2(Left* a, Right* b, Out* c, ZTHALF_THREE_SHAPES) {
+  half_utils::halfBinaryOp<scalar::emulated::atan2Ftor>(a, b, c, ZTHALF_THREE_SHAPE_NAMES);
 }
 
-ZTHALF_ANGLE_ENTRIES(ZTHALF_INSTANTIATE_BINARY)
+ZTHALF_ANGLE_ENTRIES(ZTHALF_BINARY_ROW)
 
 }  // namespace half

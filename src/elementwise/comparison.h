@@ -2,8 +2,8 @@
 // Internal: promises nothing to users of the library.
 #pragma once
 
+#include "core/instantiate.h"
 #include "elementwise/binary_op.h"
-#include "elementwise/instantiate.h"
 #include "scalar/functors/elementwise_functors.h"
 #include "zthalf/half_ops.h"
 

@@ -1,15 +1,13 @@
+#include "core/shape_parameters.h"
 #include "elementwise/comparison.h"
 
 namespace half {
 
 template <class Left, class Right>
-void eq(Left* a, Right* b, bool* c, unsigned long na, unsigned long ndimsA, unsigned long const* dimsA,
-        unsigned long nb, unsigned long ndimsB, unsigned long const* dimsB, unsigned long nc, unsigned long ndimsC,
-        unsigned long const* dimsC) {
-  compare<scalar::emulated::realOps::eqFtor, utils::boolAndFtor>(a, b, c, na, ndimsA, dimsA, nb, ndimsB, dimsB, nc,
-                                                                 ndimsC, dimsC);
+void eq(Left* a, Right* b, bool* c, ZTHALF_THREE_SHAPES) {
+  compare<scalar::emulated::realOps::eqFtor, utils::boolAndFtor>(a, b, c, ZTHALF_THREE_SHAPE_NAMES);
 }
 
-ZTHALF_COMPARISON(ZTHALF_INSTANTIATE_COMPARISON, eq)
+ZTHALF_COMPARISON(ZTHALF_COMPARISON_ROW, eq)
 
 }  // namespace half

@@ -1,4 +1,5 @@
-#include "elementwise/instantiate.h"
+#include "core/instantiate.h"
+#include "core/shape_parameters.h"
 #include "elementwise/ternary_op.h"
 #include "scalar/functors/fma_functor.h"
 #include "zthalf/half_ops.h"
@@ -6,13 +7,10 @@
 namespace half {
 
 template <class A, class B, class C, class Out>
-void fma(A* a, B* b, C* c, Out* d, unsigned long na, unsigned long ndimsA, unsigned long const* dimsA, unsigned long nb,
-         unsigned long ndimsB, unsigned long const* dimsB, unsigned long nc, unsigned long ndimsC,
-         unsigned long const* dimsC, unsigned long nd, unsigned long ndimsD, unsigned long const* dimsD) {
-  half_utils::halfTernaryOp<scalar::emulated::fmaFtor>(a, b, c, d, na, ndimsA, dimsA, nb, ndimsB, dimsB, nc, ndimsC,
-                                                       dimsC, nd, ndimsD, dimsD);
+void fma(A* a, B* b, C* c, Out* d, ZTHALF_FOUR_SHAPES) {
+  half_utils::halfTernaryOp<scalar::emulated::fmaFtor>(a, b, c, d, ZTHALF_FOUR_SHAPE_NAMES);
 }
 
-ZTHALF_FMA_ENTRIES(ZTHALF_INSTANTIATE_TERNARY)
+ZTHALF_FMA_ENTRIES(ZTHALF_TERNARY_ROW)
 
 }  // namespace half

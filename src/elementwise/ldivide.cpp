@@ -1,16 +1,15 @@
 // b / a: rdivide with its operands changed over.
-#include "elementwise/instantiate.h"
+#include "core/instantiate.h"
+#include "core/shape_parameters.h"
 #include "zthalf/half_ops.h"
 
 namespace half {
 
 template <class Left, class Right, class Out>
-void ldivide(Left* a, Right* b, Out* c, unsigned long na, unsigned long ndimsA, unsigned long const* dimsA,
-             unsigned long nb, unsigned long ndimsB, unsigned long const* dimsB, unsigned long nc, unsigned long ndimsC,
-             unsigned long const* dimsC) {
+void ldivide(Left* a, Right* b, Out* c, ZTHALF_THREE_SHAPES) {
   rdivide<Right, Left, Out>(b, a, c, nb, ndimsB, dimsB, na, ndimsA, dimsA, nc, ndimsC, dimsC);
 }
 
-ZTHALF_TWENTY_PAIRS(ZTHALF_INSTANTIATE_BINARY, ldivide)
+ZTHALF_TWENTY_PAIRS(ZTHALF_BINARY_ROW, ldivide)
 
 }  // namespace half

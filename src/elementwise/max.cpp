@@ -1,25 +1,21 @@
+#include "core/instantiate.h"
+#include "core/shape_parameters.h"
 #include "elementwise/binary_op.h"
-#include "elementwise/instantiate.h"
 #include "scalar/functors/extremum_functors.h"
 #include "zthalf/half_extrema.h"
 
 namespace half {
 
 template <class Left, class Right, class Out>
-void max(Left* a, Right* b, Out* c, unsigned long na, unsigned long ndimsA, unsigned long const* dimsA,
-         unsigned long nb, unsigned long ndimsB, unsigned long const* dimsB, unsigned long nc, unsigned long ndimsC,
-         unsigned long const* dimsC) {
-  half_utils::halfBinaryOp<scalar::emulated::maxFtor>(a, b, c, na, ndimsA, dimsA, nb, ndimsB, dimsB, nc, ndimsC, dimsC);
+void max(Left* a, Right* b, Out* c, ZTHALF_THREE_SHAPES) {
+  half_utils::halfBinaryOp<scalar::emulated::maxFtor>(a, b, c, ZTHALF_THREE_SHAPE_NAMES);
 }
 
 template <class Left, class Right, class Out>
-void maxOmitNaN(Left* a, Right* b, Out* c, unsigned long na, unsigned long ndimsA, unsigned long const* dimsA,
-                unsigned long nb, unsigned long ndimsB, unsigned long const* dimsB, unsigned long nc,
-                unsigned long ndimsC, unsigned long const* dimsC) {
-  half_utils::halfBinaryOp<scalar::emulated::maxOmitNaNFtor>(a, b, c, na, ndimsA, dimsA, nb, ndimsB, dimsB, nc, ndimsC,
-                                                             dimsC);
+void maxOmitNaN(Left* a, Right* b, Out* c, ZTHALF_THREE_SHAPES) {
+  half_utils::halfBinaryOp<scalar::emulated::maxOmitNaNFtor>(a, b, c, ZTHALF_THREE_SHAPE_NAMES);
 }
 
-ZTHALF_MAX_ENTRIES(ZTHALF_INSTANTIATE_BINARY)
+ZTHALF_MAX_ENTRIES(ZTHALF_BINARY_ROW)
 
 }  // namespace half

@@ -1,18 +1,16 @@
+#include "core/instantiate.h"
+#include "core/shape_parameters.h"
 #include "elementwise/binary_op.h"
-#include "elementwise/instantiate.h"
 #include "scalar/functors/remainder_functors.h"
 #include "zthalf/half_ops.h"
 
 namespace half {
 
 template <class Left, class Right>
-void rem(Left* a, Right* b, unsigned short* c, unsigned long na, unsigned long ndimsA, unsigned long const* dimsA,
-         unsigned long nb, unsigned long ndimsB, unsigned long const* dimsB, unsigned long nc, unsigned long ndimsC,
-         unsigned long const* dimsC) {
-  half_utils::halfBinaryOp<impl::emulated::remInLoopFtor>(a, b, c, na, ndimsA, dimsA, nb, ndimsB, dimsB, nc, ndimsC,
-                                                          dimsC);
+void rem(Left* a, Right* b, unsigned short* c, ZTHALF_THREE_SHAPES) {
+  half_utils::halfBinaryOp<impl::emulated::remInLoopFtor>(a, b, c, ZTHALF_THREE_SHAPE_NAMES);
 }
 
-ZTHALF_REAL_PAIRS(ZTHALF_INSTANTIATE_REMAINDER, rem, Half)
+ZTHALF_REAL_PAIRS(ZTHALF_REMAINDER_ROW, rem, Half)
 
 }  // namespace half

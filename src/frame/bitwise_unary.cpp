@@ -1,5 +1,5 @@
 // Unary operations that are bit work on the patterns.
-#include "frame/instantiate.h"
+#include "core/instantiate.h"
 #include "frame/simple_loop.h"
 #include "scalar/functors/bit_functors.h"
 #include "scalar/functors/elementwise_functors.h"
@@ -63,7 +63,7 @@ void isfinite(T* src, bool* dst, unsigned long n) {
   unaryOpSimpleLoop(src, dst, n, classification<functor::realOps::isfiniteFtor, utils::boolAndFtor>{});
 }
 
-ZTHALF_BITWISE_ENTRIES(ZTHALF_INSTANTIATE_UNARY)
-ZTHALF_CLASSIFICATION_ENTRIES(ZTHALF_INSTANTIATE_UNARY)
+ZTHALF_BITWISE_ENTRIES(ZTHALF_UNARY_ROW)
+ZTHALF_CLASSIFICATION_ENTRIES(ZTHALF_UNARY_ROW)
 
 }  // namespace half

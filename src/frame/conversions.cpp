@@ -1,5 +1,5 @@
 // The conversions between half and the other numeric types, on arrays.
-#include "frame/instantiate.h"
+#include "core/instantiate.h"
 #include "frame/simple_loop.h"
 #include "scalar/functors/cast_functor.h"
 #include "zthalf/half_ops.h"
@@ -22,6 +22,6 @@ void convert(From* src, To* dst, unsigned long n) {
   half_utils::unaryOpSimpleLoop(stored, dst, n, scalar::emulated::castToFtor<From, To, void>{});
 }
 
-ZTHALF_CONVERSION_ENTRIES(ZTHALF_INSTANTIATE_UNARY)
+ZTHALF_CONVERSION_ENTRIES(ZTHALF_UNARY_ROW)
 
 }  // namespace half

@@ -1,5 +1,5 @@
 // Exponentials on arrays.
-#include "frame/instantiate.h"
+#include "core/instantiate.h"
 #include "frame/table_loop.h"
 #include "scalar/functors/exponential_functors.h"
 #include "zthalf/half_ops.h"
@@ -29,6 +29,6 @@ void pow10(T* src, T* dst, unsigned long n) {
   unaryOpTableLoop(src, dst, n, functor::pow10Ftor{});
 }
 
-ZTHALF_EXPONENTIAL_ENTRIES(ZTHALF_INSTANTIATE_UNARY)
+ZTHALF_EXPONENTIAL_ENTRIES(ZTHALF_UNARY_ROW)
 
 }  // namespace half

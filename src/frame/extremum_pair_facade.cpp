@@ -1,6 +1,7 @@
 // The functions of min and max that choose an entry of the table by the types they are told.
 #include <type_traits>
 
+#include "core/shape_parameters.h"
 #include "zthalf/detail/entries.h"
 #include "zthalf/half_extrema.h"
 #include "zthalf/half_ptr.h"
@@ -43,17 +44,14 @@ unsigned pairAsked(FloatTypeEnum typeA, FloatTypeEnum typeB, bool complexA, bool
 
 namespace stored = half::element;
 
-#define ZTHALF_CASE_OF_PAIR(op, Left, Right, Out)                                                                 \
-  case pairOfTypes<stored::Left, stored::Right>:                                                                  \
-    return half_ptr::op##Left##Right##Ptr(static_cast<stored::Left*>(a), static_cast<stored::Right*>(b),          \
-                                          static_cast<stored::Out*>(c), na, ndimsA, dimsA, nb, ndimsB, dimsB, nc, \
-                                          ndimsC, dimsC);
+#define ZTHALF_CASE_OF_PAIR(op, Left, Right, Out)                                                        \
+  case pairOfTypes<stored::Left, stored::Right>:                                                         \
+    return half_ptr::op##Left##Right##Ptr(static_cast<stored::Left*>(a), static_cast<stored::Right*>(b), \
+                                          static_cast<stored::Out*>(c), ZTHALF_THREE_SHAPE_NAMES);
 
-#define ZTHALF_DEFINE_CHOICE_OF_PAIR(op)                                                                          \
-  void op##OfPair(unsigned pair, void* a, void* b, void* c, unsigned long na, unsigned long ndimsA,               \
-                  unsigned long const* dimsA, unsigned long nb, unsigned long ndimsB, unsigned long const* dimsB, \
-                  unsigned long nc, unsigned long ndimsC, unsigned long const* dimsC) {                           \
-    switch (pair) { ZTHALF_TWENTY_PAIRS(ZTHALF_CASE_OF_PAIR, op) }                                                \
+#define ZTHALF_DEFINE_CHOICE_OF_PAIR(op)                                           \
+  void op##OfPair(unsigned pair, void* a, void* b, void* c, ZTHALF_THREE_SHAPES) { \
+    switch (pair) { ZTHALF_TWENTY_PAIRS(ZTHALF_CASE_OF_PAIR, op) }                 \
   }
 
 ZTHALF_DEFINE_CHOICE_OF_PAIR(min)
@@ -66,20 +64,16 @@ ZTHALF_DEFINE_CHOICE_OF_PAIR(maxOmitNaN)
 
 }  // namespace
 
-void minBinOp(void* a, void* b, void* c, unsigned long na, unsigned long ndimsA, unsigned long const* dimsA,
-              unsigned long nb, unsigned long ndimsB, unsigned long const* dimsB, unsigned long nc,
-              unsigned long ndimsC, unsigned long const* dimsC, FloatTypeEnum typeA, FloatTypeEnum typeB, bool complexA,
+void minBinOp(void* a, void* b, void* c, ZTHALF_THREE_SHAPES, FloatTypeEnum typeA, FloatTypeEnum typeB, bool complexA,
               bool complexB, bool omitNaN) {
   const auto choose = omitNaN ? &minOmitNaNOfPair : &minOfPair;
-  choose(pairAsked(typeA, typeB, complexA, complexB), a, b, c, na, ndimsA, dimsA, nb, ndimsB, dimsB, nc, ndimsC, dimsC);
+  choose(pairAsked(typeA, typeB, complexA, complexB), a, b, c, ZTHALF_THREE_SHAPE_NAMES);
 }
 
-void maxBinOp(void* a, void* b, void* c, unsigned long na, unsigned long ndimsA, unsigned long const* dimsA,
-              unsigned long nb, unsigned long ndimsB, unsigned long const* dimsB, unsigned long nc,
-              unsigned long ndimsC, unsigned long const* dimsC, FloatTypeEnum typeA, FloatTypeEnum typeB, bool complexA,
+void maxBinOp(void* a, void* b, void* c, ZTHALF_THREE_SHAPES, FloatTypeEnum typeA, FloatTypeEnum typeB, bool complexA,
               bool complexB, bool omitNaN) {
   const auto choose = omitNaN ? &maxOmitNaNOfPair : &maxOfPair;
-  choose(pairAsked(typeA, typeB, complexA, complexB), a, b, c, na, ndimsA, dimsA, nb, ndimsB, dimsB, nc, ndimsC, dimsC);
+  choose(pairAsked(typeA, typeB, complexA, complexB), a, b, c, ZTHALF_THREE_SHAPE_NAMES);
 }
 
 }  // namespace half_vector

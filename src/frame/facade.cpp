@@ -1,4 +1,5 @@
 // The facade: each function loads its entry of the table and jumps to it with all arguments as they came.
+#include "core/shape_parameters.h"
 #include "zthalf/detail/entries.h"
 #include "zthalf/half_ptr.h"
 #include "zthalf/half_vector.h"
@@ -40,37 +41,25 @@ T* bare(T* p) {
   }
 #define ZTHALF_FORWARD_QUERY(entry, facade, In, instance) \
   bool facade(element::In* src, unsigned long n) { return half_ptr::entry##Ptr(bare(src), n); }
-#define ZTHALF_FORWARD_BINARY(op, Left, Right, Out)                                                                   \
-  void op(element::Left* a, element::Right* b, element::Out* c, unsigned long na, unsigned long ndimsA,               \
-          unsigned long const* dimsA, unsigned long nb, unsigned long ndimsB, unsigned long const* dimsB,             \
-          unsigned long nc, unsigned long ndimsC, unsigned long const* dimsC) {                                       \
-    half_ptr::op##Left##Right##Ptr(stored(a), stored(b), stored(c), na, ndimsA, dimsA, nb, ndimsB, dimsB, nc, ndimsC, \
-                                   dimsC);                                                                            \
+#define ZTHALF_FORWARD_BINARY(op, Left, Right, Out)                                            \
+  void op(element::Left* a, element::Right* b, element::Out* c, ZTHALF_THREE_SHAPES) {         \
+    half_ptr::op##Left##Right##Ptr(stored(a), stored(b), stored(c), ZTHALF_THREE_SHAPE_NAMES); \
   }
-#define ZTHALF_FORWARD_REMAINDER(op, Left, Right, Out)                                                          \
-  void op(element::Left* a, element::Right* b, element::Out* c, unsigned long na, unsigned long ndimsA,         \
-          unsigned long const* dimsA, unsigned long nb, unsigned long ndimsB, unsigned long const* dimsB,       \
-          unsigned long nc, unsigned long ndimsC, unsigned long const* dimsC) {                                 \
-    half_ptr::op##Left##Right##Ptr(bare(a), bare(b), bare(c), na, ndimsA, dimsA, nb, ndimsB, dimsB, nc, ndimsC, \
-                                   dimsC);                                                                      \
+#define ZTHALF_FORWARD_REMAINDER(op, Left, Right, Out)                                   \
+  void op(element::Left* a, element::Right* b, element::Out* c, ZTHALF_THREE_SHAPES) {   \
+    half_ptr::op##Left##Right##Ptr(bare(a), bare(b), bare(c), ZTHALF_THREE_SHAPE_NAMES); \
   }
 #define ZTHALF_FORWARD_SIMPLE_REDUCTION(entry, facade, function, In, Out, Accumulator) \
   void facade(element::In* src, element::Out* dst, unsigned long n) {                  \
     half_ptr::entry##Ptr(stored(src), stored(dst), n);                                 \
   }
-#define ZTHALF_FORWARD_COMPARISON(entry, op, Left, Right)                                                   \
-  void op(element::Left* a, element::Right* b, bool* c, unsigned long na, unsigned long ndimsA,             \
-          unsigned long const* dimsA, unsigned long nb, unsigned long ndimsB, unsigned long const* dimsB,   \
-          unsigned long nc, unsigned long ndimsC, unsigned long const* dimsC) {                             \
-    half_ptr::entry##Ptr(stored(a), stored(b), c, na, ndimsA, dimsA, nb, ndimsB, dimsB, nc, ndimsC, dimsC); \
+#define ZTHALF_FORWARD_COMPARISON(entry, op, Left, Right)                      \
+  void op(element::Left* a, element::Right* b, bool* c, ZTHALF_THREE_SHAPES) { \
+    half_ptr::entry##Ptr(stored(a), stored(b), c, ZTHALF_THREE_SHAPE_NAMES);   \
   }
-#define ZTHALF_FORWARD_TERNARY(op, A, B, C, Out)                                                                      \
-  void op(element::A* a, element::B* b, element::C* c, element::Out* d, unsigned long na, unsigned long ndimsA,       \
-          unsigned long const* dimsA, unsigned long nb, unsigned long ndimsB, unsigned long const* dimsB,             \
-          unsigned long nc, unsigned long ndimsC, unsigned long const* dimsC, unsigned long nd, unsigned long ndimsD, \
-          unsigned long const* dimsD) {                                                                               \
-    half_ptr::op##A##B##C##Ptr(stored(a), stored(b), stored(c), stored(d), na, ndimsA, dimsA, nb, ndimsB, dimsB, nc,  \
-                               ndimsC, dimsC, nd, ndimsD, dimsD);                                                     \
+#define ZTHALF_FORWARD_TERNARY(op, A, B, C, Out)                                                     \
+  void op(element::A* a, element::B* b, element::C* c, element::Out* d, ZTHALF_FOUR_SHAPES) {        \
+    half_ptr::op##A##B##C##Ptr(stored(a), stored(b), stored(c), stored(d), ZTHALF_FOUR_SHAPE_NAMES); \
   }
 
 ZTHALF_UNARY_ENTRIES(ZTHALF_FORWARD_UNARY)

@@ -1,5 +1,5 @@
 // Hyperbolic functions and their inverses on arrays, plain and stopping.
-#include "frame/instantiate.h"
+#include "core/instantiate.h"
 #include "frame/stop_conditions.h"
 #include "frame/table_loop.h"
 #include "scalar/functors/hyperbolic_functors.h"
@@ -45,6 +45,6 @@ bool atanhEarlyExit(fp16binary_t* src, fp16binary_t* dst, unsigned long n) {
   return unaryTableLoopWithEarlyExit(src, dst, n, functor::atanhFtor{}, isBeyondOne{});
 }
 
-ZTHALF_HYPERBOLIC_ENTRIES(ZTHALF_INSTANTIATE_UNARY)
+ZTHALF_HYPERBOLIC_ENTRIES(ZTHALF_UNARY_ROW)
 
 }  // namespace half

@@ -1,5 +1,5 @@
 // Inverse trigonometric functions on arrays, plain and stopping.
-#include "frame/instantiate.h"
+#include "core/instantiate.h"
 #include "frame/stop_conditions.h"
 #include "frame/table_loop.h"
 #include "scalar/functors/inverse_trigonometric_functors.h"
@@ -29,6 +29,6 @@ bool acosEarlyExit(fp16binary_t* src, fp16binary_t* dst, unsigned long n) {
   return unaryTableLoopWithEarlyExit(src, dst, n, functor::acosFtor{}, isBeyondOne{});
 }
 
-ZTHALF_ARC_TANGENT_ENTRIES(ZTHALF_INSTANTIATE_UNARY)
+ZTHALF_ARC_TANGENT_ENTRIES(ZTHALF_UNARY_ROW)
 
 }  // namespace half

@@ -1,5 +1,5 @@
 // Rounding to integers and spacing, on arrays.
-#include "frame/instantiate.h"
+#include "core/instantiate.h"
 #include "frame/simple_loop.h"
 #include "scalar/functors/elementwise_functors.h"
 #include "scalar/functors/rounding_functors.h"
@@ -34,6 +34,6 @@ void eps(T* src, typename realType<T>::type* dst, unsigned long n) {
   unaryOpSimpleLoop(src, dst, n, functor::epsFtor{});
 }
 
-ZTHALF_SPACING_ENTRIES(ZTHALF_INSTANTIATE_UNARY)
+ZTHALF_SPACING_ENTRIES(ZTHALF_UNARY_ROW)
 
 }  // namespace half

@@ -37,9 +37,9 @@ inline constexpr bool isQuick = requires {
 };
 
 template <class Ftor>
-inline constexpr tableThresholds thresholdsOf = !zthalf::earnsLevels<Ftor> ? oneByOne
-                                                : isQuick<Ftor>            ? quickInLanes
-                                                                           : inLanes;
+inline constexpr tableThresholds thresholdsOf = !zthalf::earnsLevelsFor<Ftor, fp16binary_t> ? oneByOne
+                                                : isQuick<Ftor>                             ? quickInLanes
+                                                                                            : inLanes;
 
 template <class Ftor>
 unsigned long tableFrom() {

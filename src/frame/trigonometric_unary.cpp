@@ -1,5 +1,5 @@
 // Trigonometric functions on arrays.
-#include "frame/instantiate.h"
+#include "core/instantiate.h"
 #include "frame/table_loop.h"
 #include "scalar/functors/trigonometric_functors.h"
 #include "zthalf/half_ops.h"
@@ -34,6 +34,6 @@ void cospi(T* src, T* dst, unsigned long n) {
   unaryOpTableLoop(src, dst, n, functor::cospiFtor{});
 }
 
-ZTHALF_TRIGONOMETRIC_ENTRIES(ZTHALF_INSTANTIATE_UNARY)
+ZTHALF_TRIGONOMETRIC_ENTRIES(ZTHALF_UNARY_ROW)
 
 }  // namespace half

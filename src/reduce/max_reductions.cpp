@@ -1,7 +1,5 @@
+#include "core/instantiate.h"
 #include "reduce/extrema.h"
-#include "zthalf/detail/element_types.h"
-#include "zthalf/detail/entries.h"
-#include "zthalf/detail/entry_shapes.h"
 #include "zthalf/half_extrema.h"
 
 namespace half {
@@ -59,10 +57,6 @@ void maxReduceFuncOmitNaN(SrcT* src, DstT* dst, double* index, unsigned long ndi
   half_utils::extremaAlong<maxOmitNaNKind>(src, dst, index, ndims, dims, firstReduced, linear);
 }
 
-#define ZTHALF_INSTANTIATE_REDUCTION(entry, shape, Element, Accumulator, function) \
-  template half_ptr::shape##_entry<element::Element, element::Element>             \
-      function<element::Element, element::Element, element::Accumulator>;
-
-ZTHALF_MAX_REDUCTION_ENTRIES(ZTHALF_INSTANTIATE_REDUCTION)
+ZTHALF_MAX_REDUCTION_ENTRIES(ZTHALF_EXTREMUM_ROW)
 
 }  // namespace half

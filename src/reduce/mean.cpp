@@ -1,7 +1,7 @@
+#include "core/instantiate.h"
 #include "reduce/division.h"
 #include "reduce/folds/counting_fold.h"
 #include "reduce/folds/steps.h"
-#include "reduce/instantiate.h"
 #include "reduce/reduction.h"
 #include "zthalf/half_reductions.h"
 
@@ -58,8 +58,8 @@ void meanReduceFuncOmitNaN(In* src, Out* dst, unsigned long ndims, unsigned long
                                                                                 meanOfCountedTo<Accumulator>(dst));
 }
 
-ZTHALF_SIMPLE_REDUCTIONS(ZTHALF_INSTANTIATE_SIMPLE_REDUCTION, mean)
-ZTHALF_SIMPLE_REDUCTIONS_OMITNAN(ZTHALF_INSTANTIATE_SIMPLE_REDUCTION, mean)
-ZTHALF_REDUCTIONS_ALONG_DIMENSIONS(ZTHALF_INSTANTIATE_REDUCTION, mean)
+ZTHALF_SIMPLE_REDUCTIONS(ZTHALF_SIMPLE_REDUCTION_ROW, mean)
+ZTHALF_SIMPLE_REDUCTIONS_OMITNAN(ZTHALF_SIMPLE_REDUCTION_ROW, mean)
+ZTHALF_REDUCTIONS_ALONG_DIMENSIONS(ZTHALF_REDUCTION_ROW, mean)
 
 }  // namespace half

@@ -1,7 +1,7 @@
+#include "core/instantiate.h"
 #include "reduce/folds/complex_half_product.h"
 #include "reduce/folds/complex_product.h"
 #include "reduce/folds/steps.h"
-#include "reduce/instantiate.h"
 #include "reduce/reduction.h"
 #include "zthalf/half_reductions.h"
 
@@ -46,8 +46,8 @@ void prodReduceFuncOmitNaN(In* src, Out* dst, unsigned long ndims, unsigned long
   half_utils::foldAlong<productStepOmitNaN<Accumulator>>(src, dst, ndims, dims, firstDimReduced);
 }
 
-ZTHALF_SIMPLE_REDUCTIONS(ZTHALF_INSTANTIATE_SIMPLE_REDUCTION, prod)
-ZTHALF_SIMPLE_REDUCTIONS_OMITNAN(ZTHALF_INSTANTIATE_SIMPLE_REDUCTION, prod)
-ZTHALF_REDUCTIONS_ALONG_DIMENSIONS(ZTHALF_INSTANTIATE_REDUCTION, prod)
+ZTHALF_SIMPLE_REDUCTIONS(ZTHALF_SIMPLE_REDUCTION_ROW, prod)
+ZTHALF_SIMPLE_REDUCTIONS_OMITNAN(ZTHALF_SIMPLE_REDUCTION_ROW, prod)
+ZTHALF_REDUCTIONS_ALONG_DIMENSIONS(ZTHALF_REDUCTION_ROW, prod)
 
 }  // namespace half

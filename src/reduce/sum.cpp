@@ -1,5 +1,5 @@
+#include "core/instantiate.h"
 #include "reduce/folds/steps.h"
-#include "reduce/instantiate.h"
 #include "reduce/reduction.h"
 #include "zthalf/half_reductions.h"
 
@@ -32,8 +32,8 @@ void sumReduceFuncOmitNaN(In* src, Out* dst, unsigned long ndims, unsigned long*
   half_utils::foldAlong<sumStepOmitNaN<Accumulator>>(src, dst, ndims, dims, firstDimReduced);
 }
 
-ZTHALF_SIMPLE_REDUCTIONS(ZTHALF_INSTANTIATE_SIMPLE_REDUCTION, sum)
-ZTHALF_SIMPLE_REDUCTIONS_OMITNAN(ZTHALF_INSTANTIATE_SIMPLE_REDUCTION, sum)
-ZTHALF_REDUCTIONS_ALONG_DIMENSIONS(ZTHALF_INSTANTIATE_REDUCTION, sum)
+ZTHALF_SIMPLE_REDUCTIONS(ZTHALF_SIMPLE_REDUCTION_ROW, sum)
+ZTHALF_SIMPLE_REDUCTIONS_OMITNAN(ZTHALF_SIMPLE_REDUCTION_ROW, sum)
+ZTHALF_REDUCTIONS_ALONG_DIMENSIONS(ZTHALF_REDUCTION_ROW, sum)
 
 }  // namespace half

@@ -1,9 +1,10 @@
 #!/usr/bin/env python3
 """A test of the tests: plants small faults in a copy of the tree, one at a time, and demands that a test turns red.
 
-usage: mutants_test.py [--list] [--only TEXT] [--jobs N] [--work DIRECTORY]
+usage: mutants_test.py [--list | --check] [--only TEXT] [--jobs N] [--work DIRECTORY]
 
   --list   print the faults and end
+  --check  only see whether each fault still applies: quick, builds nothing
   --only   try the faults with TEXT in their names
   --work   where the copy and its builds go, and stay for the next run (default build/mutants)
 
@@ -112,20 +113,40 @@ class Build:
         return failed
 
 
+def text_for(tree, fault):
+    """The text of the fault's file, in which its stretch stands once."""
+    path = os.path.join(tree, fault.file)
+    if not os.path.exists(path):
+        raise Failure('no longer applies: there is no ' + fault.file)
+    with open(path) as file:
+        text = file.read()
+    count = text.count(fault.old)
+    if count != 1:
+        raise Failure('no longer applies: its text occurs %d times in %s' % (count, fault.file))
+    return text
+
+
+def check(faults):
+    """The number of faults that no longer apply, each of which is named."""
+    stale = 0
+    for fault in faults:
+        try:
+            text_for(ROOT, fault)
+        except Failure as failure:
+            print('FAILED: %s: %s' % (fault.name, failure))
+            stale += 1
+    print('%d faults, %d no longer apply' % (len(faults), stale))
+    return stale
+
+
 class planted:
     """The fault in its file, for as long as the block lasts."""
 
     def __init__(self, tree, fault):
         self.fault, self.path = fault, os.path.join(tree, fault.file)
+        self.original = text_for(tree, fault)
 
     def __enter__(self):
-        if not os.path.exists(self.path):
-            raise Failure('no longer applies: there is no ' + self.fault.file)
-        with open(self.path) as text:
-            self.original = text.read()
-        count = self.original.count(self.fault.old)
-        if count != 1:
-            raise Failure('no longer applies: its text occurs %d times in %s' % (count, self.fault.file))
         with open(self.path, 'w') as text:
             text.write(self.original.replace(self.fault.old, self.fault.new))
 
@@ -183,6 +204,7 @@ def try_all(work, release, faults, jobs):
 def main():
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument('--list', action='store_true')
+    parser.add_argument('--check', action='store_true')
     parser.add_argument('--only', default='')
     parser.add_argument('--jobs', type=int, default=os.cpu_count())
     parser.add_argument('--work', default=os.path.join(ROOT, 'build', 'mutants'))
@@ -192,6 +214,9 @@ def main():
     if options.list or not chosen:
         print('\n'.join('%-55s %s' % (fault.name, fault.file) for fault in chosen or FAULTS))
         sys.exit(0 if options.list else 'no fault has "%s" in its name' % options.only)
+
+    if options.check:
+        sys.exit(1 if check(chosen) else 0)
 
     work = os.path.abspath(options.work)
     refresh_copy(os.path.join(work, 'tree'))

@@ -6,37 +6,15 @@
 #include <string>
 #include <vector>
 
-#include "tests/support/table_entries.h"
+#include "tests/support/selected_entries.h"
 #include "zthalf/zthalf.h"
 
 namespace zthalf {
 namespace {
 
-using testing::forEachEntry;
-using testing::replacedEntry;
-
-// The entries that a call reaches: each is replaced in its turn by a function that counts.
-template <class Call>
-std::vector<std::string> entriesReachedBy(Call call) {
-  std::vector<std::string> reached;
-  forEachEntry([&](std::string const& name, auto& entry, auto implementation, auto) {
-    if (name.rfind("min", 0) != 0 && name.rfind("max", 0) != 0) return;
-    using function = std::remove_pointer_t<decltype(implementation)>;
-    static unsigned calls;
-    const auto note = []<class Result, class... Args>(Result (*)(Args...)) {
-      return +[](Args...) -> Result {
-        ++calls;
-        return Result();
-      };
-    };
-    const replacedEntry<function> swap(entry, note(implementation));
-    calls = 0;
-    call();
-    if (calls == 1) reached.push_back(name);
-    EXPECT_LE(calls, 1u) << name;
-  });
-  return reached;
-}
+using testing::entriesReachedBy;
+using testing::only;
+using testing::reachedEntries;
 
 constexpr bool flags[] = {false, true};
 
@@ -60,12 +38,15 @@ TEST(ExtremumSelectors, ReachTheEntryOfTheirFlags) {
           const std::string ending = omitNaN ? "OmitNaN" : "";
           for (const bool firstReduced : flags) {
             EXPECT_EQ(entriesReachedBy([&] { unary(from, to, ndims, dims, firstReduced, omitNaN, isComplex); }),
-                      std::vector{stem + ending});
+                      ndims == 1 ? only(stem + ending, from, to, dims[0])
+                                 : only(stem + ending, from, to, ndims, dims, firstReduced));
             for (const bool linear : flags) {
               EXPECT_EQ(entriesReachedBy([&] {
                           unaryWithIndex(from, to, index, ndims, dims, firstReduced, omitNaN, isComplex, linear);
                         }),
-                        std::vector{stem + "WithIndex" + ending});
+                        ndims == 1
+                            ? only(stem + "WithIndex" + ending, from, to, index, dims[0])
+                            : only(stem + "WithIndex" + ending, from, to, index, ndims, dims, firstReduced, linear));
             }
           }
         }
@@ -78,31 +59,35 @@ TEST(ExtremumSelectors, OfWholeArraysReachTheEntriesInWhichNaNWins) {
   half_t x{0x3C00}, y;
   std::complex<half_t> z{x, x}, w;
   double index;
-  using names = std::vector<std::string>;
-  EXPECT_EQ(entriesReachedBy([&] { half_vector::minSimpleReduce(&x, &y, 1); }), names{"minSimpleReduce"});
-  EXPECT_EQ(entriesReachedBy([&] { half_vector::maxSimpleReduce(&x, &y, 1); }), names{"maxSimpleReduce"});
-  EXPECT_EQ(entriesReachedBy([&] { half_vector::minSimpleReduce(&z, &w, 1); }), names{"minCplxSimpleReduce"});
-  EXPECT_EQ(entriesReachedBy([&] { half_vector::maxSimpleReduce(&z, &w, 1); }), names{"maxCplxSimpleReduce"});
+  EXPECT_EQ(entriesReachedBy([&] { half_vector::minSimpleReduce(&x, &y, 1); }), only("minSimpleReduce", &x, &y, 1));
+  EXPECT_EQ(entriesReachedBy([&] { half_vector::maxSimpleReduce(&x, &y, 1); }), only("maxSimpleReduce", &x, &y, 1));
+  EXPECT_EQ(entriesReachedBy([&] { half_vector::minSimpleReduce(&z, &w, 1); }), only("minCplxSimpleReduce", &z, &w, 1));
+  EXPECT_EQ(entriesReachedBy([&] { half_vector::maxSimpleReduce(&z, &w, 1); }), only("maxCplxSimpleReduce", &z, &w, 1));
   EXPECT_EQ(entriesReachedBy([&] { half_vector::minSimpleReduceWithIndex(&x, &y, &index, 1); }),
-            names{"minSimpleReduceWithIndex"});
+            only("minSimpleReduceWithIndex", &x, &y, &index, 1));
   EXPECT_EQ(entriesReachedBy([&] { half_vector::maxSimpleReduceWithIndex(&x, &y, &index, 1); }),
-            names{"maxSimpleReduceWithIndex"});
+            only("maxSimpleReduceWithIndex", &x, &y, &index, 1));
   EXPECT_EQ(entriesReachedBy([&] { half_vector::minSimpleReduceWithIndex(&z, &w, &index, 1); }),
-            names{"minCplxSimpleReduceWithIndex"});
+            only("minCplxSimpleReduceWithIndex", &z, &w, &index, 1));
   EXPECT_EQ(entriesReachedBy([&] { half_vector::maxSimpleReduceWithIndex(&z, &w, &index, 1); }),
-            names{"maxCplxSimpleReduceWithIndex"});
+            only("maxCplxSimpleReduceWithIndex", &z, &w, &index, 1));
 }
 
 using binarySelector = decltype(half_vector::minBinOp);
 
-std::vector<std::string> entriesReachedBy(binarySelector* select, unsigned typeA, unsigned typeB, bool complexA,
-                                          bool complexB, bool omitNaN) {
-  double a[8] = {}, b[8] = {}, c[8] = {};
-  const unsigned long one = 1;
+double a[8], b[8], c[8];
+const unsigned long sizes[] = {1, 1, 1};
+
+reachedEntries entriesReachedBy(binarySelector* select, unsigned typeA, unsigned typeB, bool complexA, bool complexB,
+                                bool omitNaN) {
   return entriesReachedBy([&] {
-    select(a, b, c, 1, 1, &one, 1, 1, &one, 1, 1, &one, static_cast<FloatTypeEnum>(typeA),
+    select(a, b, c, 1, 2, sizes, 3, 4, sizes + 1, 5, 6, sizes + 2, static_cast<FloatTypeEnum>(typeA),
            static_cast<FloatTypeEnum>(typeB), complexA, complexB, omitNaN);
   });
+}
+
+reachedEntries onlyPair(std::string const& name) {
+  return only(name, a, b, c, 1, 2, sizes, 3, 4, sizes + 1, 5, 6, sizes + 2);
 }
 
 TEST(ExtremumSelectors, OfTwoArraysReachTheEntryOfTheirTypes) {
@@ -119,7 +104,7 @@ TEST(ExtremumSelectors, OfTwoArraysReachTheEntryOfTheirTypes) {
                                            types[typeA == 0 ? typeB : 0];
               EXPECT_EQ(entriesReachedBy(isMax ? &half_vector::maxBinOp : &half_vector::minBinOp, typeA, typeB,
                                          complexA, complexB, omitNaN),
-                        std::vector{expected});
+                        onlyPair(expected));
             }
           }
         }
@@ -129,7 +114,7 @@ TEST(ExtremumSelectors, OfTwoArraysReachTheEntryOfTheirTypes) {
 }
 
 TEST(ExtremumSelectors, OfTwoArraysDoNothingForATypeThatIsNone) {
-  const std::vector<std::string> nothing;
+  const reachedEntries nothing;
   for (const auto select : {&half_vector::minBinOp, &half_vector::maxBinOp}) {
     for (const unsigned none : {3u, 4u, 7u, 16u, 0x40000000u, std::numeric_limits<unsigned>::max()}) {
       for (const bool omitNaN : flags) {

@@ -1,4 +1,5 @@
 // The functors in the loop that runs them, at every instruction level, against the scalar functions.
+#include "scalar/functors/exponential_functors.h"
 #include "scalar/functors/two_argument_functors.h"
 
 #include <gtest/gtest.h>

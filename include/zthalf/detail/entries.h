@@ -5,6 +5,9 @@
 // Tags are the aliases of element_types.h. The names an entry list expands to are kept in plain text, for searching and
 // as a test's expected value, in tests/abi/entries.txt.
 //
+// A family lists its rows by the tags that its shape has. What only wants an entry, its signature and its function reads
+// entry_rows.h, where every row of every family has one shape.
+//
 // An entry enters this list in the change that brings its body.
 //
 // The list may be included any number of times: whoever reads it includes it, and it is there. A public header wraps it
@@ -294,6 +297,7 @@
   X(fma, Double, Double, Half, Half)     \
   X(fma, Double, Double, Single, Single) \
   X(fma, Double, Double, Double, Double)
+
 // Binary rows that the table has and the facade has no function for: half_vector::minBinOp and maxBinOp choose among
 // them.
 
@@ -322,3 +326,5 @@
   ZTHALF_EXTREMUM_REDUCTIONS(X, maxCplx, max, CplxHalf, CplxSingle)
 
 #define ZTHALF_EXTREMUM_REDUCTION_ENTRIES(X) ZTHALF_MIN_REDUCTION_ENTRIES(X) ZTHALF_MAX_REDUCTION_ENTRIES(X)
+
+#include "zthalf/detail/entry_rows.h"

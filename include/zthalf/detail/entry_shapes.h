@@ -24,6 +24,7 @@ using binary_entry = void(Left*, Right*, Out*,                                  
 
 template <class In, class Out>
 using reduction_entry = void(In*, Out*, unsigned long, unsigned long*, bool);  // dimensions, sizes, first one reduced
+
 template <class A, class B, class C, class Out>
 using ternary_entry = void(A*, B*, C*, Out*,                                     //
                            unsigned long, unsigned long, unsigned long const*,   // a: count, dimensions, sizes

@@ -3,7 +3,9 @@
 #pragma once
 
 #include "scalar/exponential.h"
+#include "scalar/functors/operands.h"
 #include "scalar/power_of_halves.h"
+#include "scalar/two_argument.h"
 #include "zthalf/half_t.h"
 
 namespace half::scalar::emulated {
@@ -19,10 +21,17 @@ struct expm1Ftor {
   fp16binary_t operator()(fp16binary_t x) const { return {zthalf::expm1Of(x.bits)}; }
 };
 
+// 2^x, and x 2^y.
 struct pow2Ftor {
   static constexpr unsigned long grain = 256;
-  static constexpr bool baseOnly = true;  // the table is faster than the widest vectors
+  template <class... Elements>
+  static constexpr bool baseOnlyFor = sizeof...(Elements) == 1;  // the table is faster than the widest vectors
+
   ZTHALF_INLINE fp16binary_t operator()(fp16binary_t x) const { return {zthalf::pow2Of(x.bits)}; }
+  template <class A, class B>
+  ZTHALF_INLINE fp16binary_t operator()(A x, B y) const {
+    return {zthalf::scaledByPowerOfTwo(plainOperand(x), plainOperand(y))};
+  }
 };
 
 struct pow10Ftor {

@@ -1,4 +1,4 @@
-// Functors of hypot, atan2, power, the scaling by a power of two, and the pairing of two parts.
+// Functors of hypot, atan2, power, and the pairing of two parts.
 // Internal: promises nothing to users of the library.
 #pragma once
 
@@ -38,15 +38,6 @@ struct powerFtor {
   template <class A, class B>
   ZTHALF_INLINE fp16binary_t operator()(A x, B y) const {
     return {zthalf::powerInLanes(plainOperand(x), plainOperand(y))};
-  }
-};
-
-struct pow2Ftor {
-  static constexpr unsigned long grain = 256;
-
-  template <class A, class B>
-  ZTHALF_INLINE fp16binary_t operator()(A x, B y) const {
-    return {zthalf::scaledByPowerOfTwo(plainOperand(x), plainOperand(y))};
   }
 };
 
