@@ -84,6 +84,6 @@ endfunction()
 function(zthalf_instantiates_tasks)
   if(CMAKE_CXX_FLAGS MATCHES "-fsanitize=thread")
     set_source_files_properties(${ARGN} PROPERTIES
-      COMPILE_OPTIONS -fno-sanitize=thread COMPILE_DEFINITIONS ZTHALF_WATCHES_THREADS)
+      COMPILE_OPTIONS -fno-sanitize=thread COMPILE_DEFINITIONS ZTHALF_WATCHES_THREADS SKIP_PRECOMPILE_HEADERS ON)
   endif()
 endfunction()

@@ -1,7 +1,8 @@
-# zthalf_add_test(NAME name SOURCES files... LABELS labels... [LEVELS])
+# zthalf_add_test(NAME name SOURCES files... LABELS labels... [LEVELS] [LEAN])
 #
 # The one way a test is made: an executable with the library's internals and GoogleTest. With LEVELS it is registered
 # once for each instruction level, name@base, name@v3, name@v4, and a level that the processor lacks counts as skipped.
+# LEAN is for tests that are long to compile and whose loops are those of the library: they are optimised little.
 # Tests whose GoogleTest names begin with Long are left to a second registration with the label long.
 #
 # The label cross marks what is built and run for every architecture, also where the rest is not: the target cross_checks.
@@ -15,7 +16,12 @@ else()
 endif()
 
 zthalf_instantiates_tasks(tests/support/caller_groups.cpp)
-add_library(zthalf_test_support STATIC tests/support/main.cpp tests/support/caller_groups.cpp)
+add_library(zthalf_test_support STATIC
+  tests/support/main.cpp tests/support/caller_groups.cpp tests/support/selected_entries.cpp)
+# What every test includes is read once. A compiler takes it only where it is told the same about positions.
+target_precompile_headers(zthalf_test_support PRIVATE <gtest/gtest.h>)
+set_target_properties(zthalf_test_support PROPERTIES POSITION_INDEPENDENT_CODE OFF)
+set_source_files_properties(tests/support/selected_entries.cpp PROPERTIES COMPILE_OPTIONS -O1)
 target_link_libraries(zthalf_test_support PUBLIC zthalf_internals GTest::gtest GTest::gmock)
 target_include_directories(zthalf_test_support PUBLIC ${PROJECT_SOURCE_DIR})
 target_compile_definitions(zthalf_test_support PUBLIC ZTHALF_GOLDEN_DIRECTORY="${PROJECT_SOURCE_DIR}/tests/golden")
@@ -33,10 +39,15 @@ else()
 endif()
 
 function(zthalf_add_test)
-  cmake_parse_arguments(PARSE_ARGV 0 test "LEVELS" "NAME" "SOURCES;LABELS")
+  cmake_parse_arguments(PARSE_ARGV 0 test "LEVELS;LEAN" "NAME" "SOURCES;LABELS")
   string(REPLACE "/" "_" target test_${test_NAME})
   add_executable(${target} ${test_SOURCES})
   target_link_libraries(${target} PRIVATE zthalf_test_support)
+  target_precompile_headers(${target} REUSE_FROM zthalf_test_support)
+  set_target_properties(${target} PROPERTIES POSITION_INDEPENDENT_CODE OFF)
+  if(test_LEAN)
+    target_compile_options(${target} PRIVATE -O1)
+  endif()
   if("cross" IN_LIST test_LABELS)
     add_dependencies(cross_checks ${target})
   endif()

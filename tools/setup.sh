@@ -13,7 +13,7 @@
 # With a compiler cache, where there is one, a second build is short. CMake takes this from the environment.
 setup_compiler_cache() {
   if [ -z "${CMAKE_CXX_COMPILER_LAUNCHER:-}" ] && command -v ccache >/dev/null; then
-    export CMAKE_CXX_COMPILER_LAUNCHER=ccache
+    export CMAKE_CXX_COMPILER_LAUNCHER=ccache CCACHE_SLOPPINESS=${CCACHE_SLOPPINESS:-pch_defines,time_macros}
   fi
 }
 

@@ -12,8 +12,9 @@ import library
 
 # Macros of the interface. Every other one that a header defines is gone after it.
 PUBLIC = re.compile(r'ZTHALF_API$|ZTHALF_VERSION(_\w+)?$')
-# These are read by the headers that define macros for others.
-PARTS = {'zthalf/detail/entries.h', 'zthalf/detail/entries_begin.h', 'zthalf/detail/entries_end.h'}
+# These are read by the headers that define macros for others. The list is in the first two.
+LIST = {'zthalf/detail/entries.h', 'zthalf/detail/entry_rows.h'}
+PARTS = LIST | {'zthalf/detail/entries_begin.h', 'zthalf/detail/entries_end.h'}
 
 
 def macros(compiler, include, text):
@@ -32,7 +33,7 @@ def main(source, compilers):
     for header in headers:
         with open(os.path.join(include, header)) as text:
             defined[header] = set(re.findall(r'^\s*#\s*define\s+(\w+)', text.read(), re.MULTILINE))
-    ours, listed = set().union(*defined.values()), defined['zthalf/detail/entries.h']
+    ours, listed = set().union(*defined.values()), set().union(*(defined[header] for header in LIST))
     hidden = {name for name in ours if not PUBLIC.match(name)}
 
     report = library.Report('macros')

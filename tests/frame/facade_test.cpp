@@ -2,12 +2,12 @@
 #include <gtest/gtest.h>
 
 #include <array>
-#include <concepts>
 #include <cstdint>
 #include <tuple>
 #include <type_traits>
 #include <utility>
 
+#include "tests/support/selected_entries.h"
 #include "tests/support/table_entries.h"
 
 namespace zthalf {
@@ -15,15 +15,7 @@ namespace {
 
 using testing::forEachFacadeFunction;
 using testing::replacedEntry;
-
-template <class T>
-std::uint64_t wordOf(T* address) {
-  return reinterpret_cast<std::uintptr_t>(address);
-}
-template <std::unsigned_integral T>
-std::uint64_t wordOf(T value) {
-  return value;
-}
+using testing::wordOf;
 
 // Stands in for the implementation behind an entry: notes what it is called with, and answers as told.
 template <class Function>

@@ -7,8 +7,6 @@
 #include <type_traits>
 #include <vector>
 
-#include "tests/support/table_entries.h"
-
 namespace zthalf::testing {
 
 template <class T>
@@ -36,44 +34,23 @@ reachedEntries only(std::string const& name, Args... args) {
   return {{name, {wordOf(args)...}}};
 }
 
-inline reachedEntries reached;
-
-// Stands in for an entry: takes note of its calls and does nothing. Name is a callable type, one for each entry.
-template <class Name, class Function>
-struct noteTaker;
-template <class Name, class Result, class... Args>
-struct noteTaker<Name, Result(Args...)> {
-  static Result call(Args... args) {
-    reached.push_back({Name{}(), {wordOf(args)...}});
-    return Result();
-  }
-};
-
-// While it lives every entry takes notes.
+// While it lives every entry takes note of its calls and does nothing else.
 class allEntriesListen {
  public:
-  allEntriesListen() {
-#define ZTHALF_ROW(entry, signature, ...) \
-  half_ptr::entry##Ptr = &noteTaker<decltype([] { return #entry; }), signature>::call;
-    ZTHALF_TABLE
-#undef ZTHALF_ROW
-  }
-  ~allEntriesListen() {
-    namespace element = half::element;
-#define ZTHALF_ROW(entry, signature, ...) half_ptr::entry##Ptr = &half::__VA_ARGS__;
-    ZTHALF_TABLE
-#undef ZTHALF_ROW
-  }
+  allEntriesListen();
+  ~allEntriesListen();
   allEntriesListen(allEntriesListen const&) = delete;
   allEntriesListen& operator=(allEntriesListen const&) = delete;
+
+  static inline reachedEntries reached;
 };
 
 template <class Call>
 reachedEntries entriesReachedBy(Call call) {
   const allEntriesListen listening;
-  reached.clear();
+  allEntriesListen::reached.clear();
   call();
-  return reached;
+  return allEntriesListen::reached;
 }
 
 }  // namespace zthalf::testing
