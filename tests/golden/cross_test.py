@@ -1,4 +1,4 @@
-"""The golden results on 64-bit ARM: builds the result sweep with the cross compiler and runs it under the emulator.
+"""The golden results and the proof on 64-bit ARM: builds both with the cross compiler and runs them under the emulator.
 
 usage: cross_test.py SOURCE_DIRECTORY
 """
@@ -20,8 +20,8 @@ def main(source):
         library.skip('no cross build here: missing %s' % ', '.join(missing))
     os.chdir(source)
     library.run('cmake', '--preset', 'aarch64')
-    library.run('cmake', '--build', '--preset', 'aarch64', '--target', 'result_sweep')
-    tests = '^golden/(results|flushed)@base$'
+    library.run('cmake', '--build', '--preset', 'aarch64', '--target', 'result_sweep', 'zthalf_proof')
+    tests = '^(golden/(results|flushed)@base|proof/proof)$'
     print(library.run('ctest', '--test-dir', 'build/aarch64', '--verbose', '-R', tests, '--no-tests=error'))
 
 

@@ -3,7 +3,8 @@
 
 #include "tools/proof/peer.h"
 
-#if defined(__FLT16_MAX__)
+// GCC has the type's limits before it has the type in C++: on ARM until version 13.
+#if defined(__FLT16_MAX__) && (defined(__x86_64__) || defined(__clang__) || __GNUC__ >= 13)
 namespace {
 
 struct float16Loops {
