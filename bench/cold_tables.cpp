@@ -1,16 +1,14 @@
 // What a pass over a result table costs when no line of the table is in a cache, beside computing the elements: the
-// measurement behind the element counts in src/frame/table_loop.h. All patterns occur, so that nearly every element
-// meets a line of its own at first.
+// measurement behind the element counts in src/frame/loops/result_loop.h. All patterns occur, so that nearly every
+// element meets a line of its own at first.
 #if defined(__x86_64__)
 #include <immintrin.h>
 
 #include <chrono>
 
 #include "bench/rows.h"
-#include "frame/table_loop.h"
-#include "scalar/functors/exponential_functors.h"
-#include "scalar/functors/logarithm_functors.h"
-#include "scalar/functors/root_functors.h"
+#include "frame/loops/result_loop.h"
+#include "scalar/functors/elementary_functors.h"
 
 namespace bench {
 namespace {

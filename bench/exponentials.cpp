@@ -4,7 +4,7 @@
 
 #include "bench/rows.h"
 #include "core/float_conversion.h"
-#include "tables/result_tables.h"
+#include "results/result_tables.h"
 #include "zthalf/half_vector.h"
 
 namespace bench {

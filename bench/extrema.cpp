@@ -5,7 +5,6 @@
 
 #include "bench/peers/peers.h"
 #include "bench/rows.h"
-#include "zthalf/half_extrema.h"
 
 namespace bench {
 namespace {

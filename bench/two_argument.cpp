@@ -2,7 +2,7 @@
 #include "bench/rows.h"
 #include "core/instruction_level.h"
 #include "elementwise/binary_op.h"
-#include "scalar/functors/two_argument_functors.h"
+#include "scalar/functors/hypot_functors.h"
 #include "zthalf/half_vector.h"
 
 namespace bench {

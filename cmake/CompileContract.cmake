@@ -80,7 +80,7 @@ endfunction()
 
 # The thread sanitizer knows nothing of what the system's oneTBB does inside, since that is built without it. The
 # sources in which oneTBB's templates are instantiated are left uninstrumented too, and tell it the order of their tasks
-# (src/frame/task_order.h); the loops' bodies are watched.
+# (src/frame/loops/task_order.h); the loops' bodies are watched.
 function(zthalf_instantiates_tasks)
   if(CMAKE_CXX_FLAGS MATCHES "-fsanitize=thread")
     set_source_files_properties(${ARGN} PROPERTIES

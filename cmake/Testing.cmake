@@ -1,6 +1,6 @@
-# zthalf_add_test(NAME name SOURCES files... LABELS labels... [LEVELS] [LEAN])
+# zthalf_add_test(NAME name LABELS labels... [LEVELS] [LEAN] [LIBRARIES ...] [DEFINITIONS ...] [DEPENDS targets...])
 #
-# The one way a test is made: an executable with the library's internals and GoogleTest. With LEVELS it is registered
+# The one way a test is made: <name>_test.cpp with the library's internals and GoogleTest, as a program. With LEVELS it is registered
 # once for each instruction level, name@base, name@v3, name@v4, and a level that the processor lacks counts as skipped.
 # LEAN is for tests that are long to compile and whose loops are those of the library: they are optimised little.
 # Tests whose GoogleTest names begin with Long are left to a second registration with the label long.
@@ -39,10 +39,15 @@ else()
 endif()
 
 function(zthalf_add_test)
-  cmake_parse_arguments(PARSE_ARGV 0 test "LEVELS;LEAN" "NAME" "SOURCES;LABELS")
+  cmake_parse_arguments(PARSE_ARGV 0 test "LEVELS;LEAN" "NAME" "LABELS;LIBRARIES;DEFINITIONS;DEPENDS")
   string(REPLACE "/" "_" target test_${test_NAME})
-  add_executable(${target} ${test_SOURCES})
-  target_link_libraries(${target} PRIVATE zthalf_test_support)
+  set(source ${test_NAME}_test.cpp)
+  add_executable(${target} ${source})
+  target_link_libraries(${target} PRIVATE zthalf_test_support ${test_LIBRARIES})
+  target_compile_definitions(${target} PRIVATE ${test_DEFINITIONS})
+  if(test_DEPENDS)
+    add_dependencies(${target} ${test_DEPENDS})
+  endif()
   target_precompile_headers(${target} REUSE_FROM zthalf_test_support)
   set_target_properties(${target} PROPERTIES POSITION_INDEPENDENT_CODE OFF)
   if(test_LEAN)
@@ -51,7 +56,8 @@ function(zthalf_add_test)
   if("cross" IN_LIST test_LABELS)
     add_dependencies(cross_checks ${target})
   endif()
-  file(STRINGS ${test_SOURCES} long_tests REGEX "^TEST(_P|_F)?\\(Long")
+  set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${source})  # it may get its first long test
+  file(STRINGS ${source} long_tests REGEX "^TEST(_P|_F)?\\(Long")
   set(levels ${ZTHALF_LEVELS})
   if(NOT test_LEVELS)
     set(levels supported)

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <cstdio>
 
-#include "tables/result_table_list.h"
+#include "results/result_tables.h"
 #include "zthalf/half_scalar.h"
 
 namespace {
@@ -21,9 +21,9 @@ void writeTable(char const* name, half_t (*function)(half_t)) {
 int main() {
   std::printf(
       "// Made by tools/generate-tables.cpp; not to be edited.\n"
-      "#include \"tables/result_tables.h\"\n"
+      "#include \"results/result_tables.h\"\n"
       "namespace zthalf::results {\n");
-#define ZTHALF_WRITE_TABLE(function) writeTable(#function, half_scalar::function);
+#define ZTHALF_WRITE_TABLE(function, ...) writeTable(#function, half_scalar::function);
   ZTHALF_RESULT_TABLES(ZTHALF_WRITE_TABLE)
   std::printf("}  // namespace zthalf::results\n");
   return std::fflush(stdout) == 0 && std::ferror(stdout) == 0 ? 0 : 1;

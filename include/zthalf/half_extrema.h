@@ -7,43 +7,6 @@
 #include "zthalf/float_type.h"
 #include "zthalf/half_t.h"
 
-/// What the entries of half_ptr.h for min and max point to, instantiated for the element types of the table only.
-/// Arguments and results are those of the half_vector functions below, with the types in the place of the flags.
-namespace half {
-
-/// The smaller or larger of two elements each, with implicit expansion, over the pairs of element types of the rows in
-/// detail/entries.h.
-#define ZTHALF_DECLARE_EXPANDING(op)                                                                                \
-  template <class Left, class Right, class Out>                                                                     \
-  ZTHALF_API void op(Left* a, Right* b, Out* c, unsigned long na, unsigned long ndimsA, unsigned long const* dimsA, \
-                     unsigned long nb, unsigned long ndimsB, unsigned long const* dimsB, unsigned long nc,          \
-                     unsigned long ndimsC, unsigned long const* dimsC);
-ZTHALF_DECLARE_EXPANDING(min)
-ZTHALF_DECLARE_EXPANDING(max)
-ZTHALF_DECLARE_EXPANDING(minOmitNaN)
-ZTHALF_DECLARE_EXPANDING(maxOmitNaN)
-#undef ZTHALF_DECLARE_EXPANDING
-
-/// The reductions. SrcT and DstT are the element type, AccT the single type of the same kind.
-#define ZTHALF_DECLARE_REDUCTION(op, ending)                                                             \
-  template <class SrcT, class DstT, class AccT>                                                          \
-  ZTHALF_API void op##SimpleReduce##ending(SrcT* src, DstT* dst, unsigned long n);                       \
-  template <class SrcT, class DstT, class AccT>                                                          \
-  ZTHALF_API void op##SimpleReduce##ending(SrcT* src, DstT* dst, double* index, unsigned long n);        \
-  template <class SrcT, class DstT, class AccT>                                                          \
-  ZTHALF_API void op##ReduceFunc##ending(SrcT* src, DstT* dst, unsigned long ndims, unsigned long* dims, \
-                                         bool firstReduced);                                             \
-  template <class SrcT, class DstT, class AccT>                                                          \
-  ZTHALF_API void op##ReduceFunc##ending(SrcT* src, DstT* dst, double* index, unsigned long ndims,       \
-                                         unsigned long* dims, bool firstReduced, bool linear);
-ZTHALF_DECLARE_REDUCTION(min, )
-ZTHALF_DECLARE_REDUCTION(max, )
-ZTHALF_DECLARE_REDUCTION(min, OmitNaN)
-ZTHALF_DECLARE_REDUCTION(max, OmitNaN)
-#undef ZTHALF_DECLARE_REDUCTION
-
-}  // namespace half
-
 /// min and max. What holds for all of them:
 ///
 /// Real elements. Where NaN wins, the first NaN is the result, otherwise the first of the smallest or largest elements.
@@ -56,7 +19,7 @@ ZTHALF_DECLARE_REDUCTION(max, OmitNaN)
 namespace half_vector {
 
 /// c = the smaller (minBinOp) or larger (maxBinOp) element of a and b, with implicit expansion; shapes, overlap and
-/// errors are those of plus in half_vector.h. typeA, complexA and typeB, complexB tell the element types: at least one
+/// errors are those of plus in half_vector.h. typeA, complexA and typeB, complexB state the element types: at least one
 /// operand is a half or complex half. A typeA of FloatTypeSingle or FloatTypeDouble says that b is half, and typeB is
 /// not looked at. c is half, or complex half where an operand is complex. Another number in typeA, or in typeB where it
 /// is looked at, does nothing at all.

@@ -124,6 +124,10 @@ ZTHALF_DECLARE_EXPANDING(ldivide)
 ZTHALF_DECLARE_EXPANDING(hypot)
 ZTHALF_DECLARE_EXPANDING(atan2)
 ZTHALF_DECLARE_EXPANDING(realToComplex)
+ZTHALF_DECLARE_EXPANDING(min)
+ZTHALF_DECLARE_EXPANDING(max)
+ZTHALF_DECLARE_EXPANDING(minOmitNaN)
+ZTHALF_DECLARE_EXPANDING(maxOmitNaN)
 #undef ZTHALF_DECLARE_EXPANDING
 
 /// On bare patterns: an unsigned short operand is a half, and so is every result.
@@ -135,6 +139,7 @@ template <class Left, class Right>
 ZTHALF_API void rem(Left* a, Right* b, unsigned short* c, unsigned long na, unsigned long ndimsA,
                     unsigned long const* dimsA, unsigned long nb, unsigned long ndimsB, unsigned long const* dimsB,
                     unsigned long nc, unsigned long ndimsC, unsigned long const* dimsC);
+
 /// The comparisons, on the pairs of element types of their rows.
 #define ZTHALF_DECLARE_COMPARISON(op)                                                                                \
   template <class Left, class Right>                                                                                 \

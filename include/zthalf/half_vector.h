@@ -5,6 +5,7 @@
 #include "zthalf/detail/entries_begin.h"
 #include "zthalf/detail/export.h"
 #include "zthalf/float_type.h"
+#include "zthalf/half_extrema.h"
 
 /// Operations on arrays of half_t and std::complex<half_t>.
 ///
@@ -17,7 +18,7 @@
 /// - Elements are processed in ascending order. Source and destination may be the same array if their elements have the
 ///   same size; where they overlap in another way, each element is read after the earlier ones have been written.
 /// - Work is done on the calling thread; large reductions take several. Calls on different arrays may run at the same
-/// time.
+///   time.
 /// - There are no errors and nothing is thrown: NaN and infinity are ordinary values.
 namespace half_vector {
 
@@ -137,7 +138,7 @@ ZTHALF_QUERY_ENTRIES(ZTHALF_DECLARE_QUERY)
 /// NaN: a result's NaN is 0x7E00 with the sign of the operand that it comes from, positive where the operation itself
 /// is invalid. With two NaN operands a signalling one goes before a quiet one, then the left one before the right one;
 /// sums and products of two halves go by the rule of half_t's operators. atan2 and mod give 0xFE00, as their scalar
-/// functions tell.
+/// functions state.
 ///
 /// Each array is described by its number of elements, its number of dimensions and their sizes, first dimension fastest
 /// in memory. In each dimension the sizes of the two operands agree or one of them is 1, a missing dimension counting
@@ -203,8 +204,9 @@ ZTHALF_API void ulp(std::complex<half_t>* a, std::complex<half_t>* b, double* ou
 /// Shape. `dims` has ndims sizes in memory order, first dimension fastest, in which reduced and kept dimensions take
 /// turns; neighbours of one kind are merged into one before the call. With firstDimReduced dims[0] is a reduced one,
 /// and ndims of 1 then reduces the whole array of dims[0] elements. Without it dims[0] is kept; ndims of 1 then reduces
-/// nothing, and each element is combined with 0 or 1 once. src has as many elements as the product of all sizes, dst as
-/// many as the product of the kept ones, in the order of the kept dimensions. The two must not overlap.
+/// nothing: each output is 0 + element, or 1 * element, so a sum turns -0 into +0. src has as many elements as the
+/// product of all sizes, dst as many as the product of the kept ones, in the order of the kept dimensions. The two must
+/// not overlap.
 ///
 /// Types. With isComplex the elements are std::complex<half_t>. What dst holds and where the roundings fall:
 ///
@@ -231,7 +233,7 @@ ZTHALF_API void ulp(std::complex<half_t>* a, std::complex<half_t>* b, double* ou
 /// omitNaN. In a mean NaN elements, or complex ones with a NaN in either part, are left out of sum and count; a NaN
 /// that the sum itself becomes stays. In sums and products each step looks at both of its operands: a NaN is dropped
 /// for the other operand, two NaNs give 0 or 1. So a sum that has become a NaN, infinity minus infinity, is lost with
-/// all that went into it when a next value comes; where that happens depends on the order told above.
+/// all that went into it when a next value comes; where that happens depends on the order stated above.
 ///
 /// Without omitNaN one NaN makes the result a NaN. Its sign, and the payload of a double, is that of the first NaN in
 /// the order of the additions, unless a signalling one comes later.

@@ -1,5 +1,4 @@
 // Bit views of the machine's floats, and the word that keeps helpers inside the pass that uses them.
-// Internal: promises nothing to users of the library.
 #pragma once
 
 #include <bit>

@@ -1,5 +1,4 @@
 // The conversions between half patterns and single or double: the narrowest and hottest point of the library.
-// Internal: promises nothing to users of the library.
 //
 // All of it is branch-free and free of tables, so that a plain loop over it vectorises, and no floating-point step has
 // a subnormal operand: processors take a slow path for those, and a caller may have told them to flush them.

@@ -1,5 +1,4 @@
 // The four operations and the root, on the processor's unit and on the unit that defines all results.
-// Internal: promises nothing to users of the library.
 //
 // A long formula is written once, as a template on a unit. On numbers both units give the same bits; they differ in
 // which NaN comes out. So the formula runs on the processor first, and again on the defining unit only if a NaN came

@@ -1,6 +1,5 @@
 // How a source that defines operations of the table makes the instances of its rows: a family's list with its shape's
 // macro, such as ZTHALF_TWENTY_PAIRS(ZTHALF_BINARY_ROW, plus), in namespace half.
-// Internal: promises nothing to users of the library.
 #pragma once
 
 #include "zthalf/detail/element_types.h"

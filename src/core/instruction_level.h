@@ -1,5 +1,4 @@
 // Instruction levels: one source, compiled for several sets of instructions; a level changes speed, never a bit.
-// Internal: promises nothing to users of the library.
 //
 // A pass is a type with a static, always inlined run(). leveled<Pass, Args...> compiles it once for each level and
 // chosen() gives the version for the level in use. A pass whose member isWide is false gains nothing from width, and is

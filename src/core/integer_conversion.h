@@ -1,5 +1,4 @@
 // The conversions between half patterns and the integers and bool.
-// Internal: promises nothing to users of the library.
 #pragma once
 
 #include <concepts>

@@ -1,5 +1,4 @@
 // Which NaN an operation delivers. The one place that knows; no other code relies on what the processor chose.
-// Internal: promises nothing to users of the library.
 //
 // The unit that defines the results gives the positive default NaN for an invalid operation, and for NaN operands the
 // first operand's NaN made quiet, unless only the second one is signalling. x86-64 gives a negative default NaN and
@@ -37,17 +36,14 @@ ZTHALF_INLINE std::uint16_t settled(float plain, std::uint16_t first, std::uint1
 }
 
 ZTHALF_INLINE std::uint16_t settled(std::uint16_t rounded, std::uint16_t first, std::uint16_t second) {
-  const auto magnitude = static_cast<std::int16_t>(rounded & pattern::magnitudeBits);
-  const auto isNaN = maskOf<std::uint16_t>(magnitude > std::int16_t{pattern::infinity});
-  return static_cast<std::uint16_t>((rounded & ~(isNaN & pattern::signBit)) | signOfNaN(first, second));
+  const auto signOfOwn = static_cast<std::uint16_t>(pattern::nanMask(rounded) & pattern::signBit);
+  return static_cast<std::uint16_t>((rounded & ~signOfOwn) | signOfNaN(first, second));
 }
 
 // The same for an operation on one half operand that has no negative results: a sign can only be that of a NaN which
 // came in.
 ZTHALF_INLINE std::uint16_t settledUnsigned(std::uint16_t rounded, std::uint16_t operand) {
-  const auto operandNaN = maskOf<std::uint16_t>(static_cast<std::int16_t>(pattern::magnitudeOf(operand)) >
-                                                static_cast<std::int16_t>(pattern::infinity));
-  return pattern::magnitudeOf(rounded) | (pattern::signOf(operand) & operandNaN);
+  return pattern::magnitudeOf(rounded) | (pattern::signOf(operand) & pattern::nanMask(operand));
 }
 
 // A NaN made quiet, its sign and the rest of its payload kept; what is not a NaN must not come here.

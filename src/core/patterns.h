@@ -1,5 +1,4 @@
 // Views and classes of a binary16 pattern: integer work only.
-// Internal: promises nothing to users of the library.
 #pragma once
 
 #include <cstdint>
@@ -29,6 +28,11 @@ ZTHALF_INLINE constexpr bool isZero(std::uint16_t x) { return magnitudeOf(x) == 
 ZTHALF_INLINE constexpr bool isNaN(std::uint16_t x) { return magnitudeOf(x) > infinity; }
 ZTHALF_INLINE constexpr bool isInfinite(std::uint16_t x) { return magnitudeOf(x) == infinity; }
 ZTHALF_INLINE constexpr bool isFinite(std::uint16_t x) { return magnitudeOf(x) < infinity; }
+
+// All ones for a NaN. Compared as signed numbers, which is what lanes of 16 bits can do.
+ZTHALF_INLINE constexpr std::uint16_t nanMask(std::uint16_t x) {
+  return maskOf<std::uint16_t>(static_cast<std::int16_t>(magnitudeOf(x)) > std::int16_t{infinity});
+}
 
 // An integer in the order of the numbers: both zeros have key 0. Says nothing about NaNs.
 ZTHALF_INLINE constexpr std::int16_t orderKey(std::uint16_t x) {

@@ -1,6 +1,5 @@
 // The shapes of the operands and of the output, as the functions with implicit expansion take them: count, number of
 // dimensions and sizes of each. Named once here, and handed on as they came.
-// Internal: promises nothing to users of the library.
 #pragma once
 
 #define ZTHALF_SHAPE(x) unsigned long n##x, unsigned long ndims##x, unsigned long const *dims##x

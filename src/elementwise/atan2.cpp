@@ -1,15 +1,9 @@
-#include "core/instantiate.h"
-#include "core/shape_parameters.h"
-#include "elementwise/binary_op.h"
-#include "scalar/functors/two_argument_functors.h"
-#include "zthalf/half_ops.h"
+#include "elementwise/expanding.h"
+#include "scalar/functors/hypot_functors.h"
 
 namespace half {
 
-template <class Left, class Right, class Out>
-void atan2(Left* a, Right* b, Out* c, ZTHALF_THREE_SHAPES) {
-  half_utils::halfBinaryOp<scalar::emulated::atan2Ftor>(a, b, c, ZTHALF_THREE_SHAPE_NAMES);
-}
+ZTHALF_EXPANDING(atan2, scalar::emulated::atan2Ftor)
 
 ZTHALF_ANGLE_ENTRIES(ZTHALF_BINARY_ROW)
 

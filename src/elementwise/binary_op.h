@@ -1,5 +1,4 @@
 // The one engine under every two-operand elementwise operation.
-// Internal: promises nothing to users of the library.
 #pragma once
 
 #include <algorithm>

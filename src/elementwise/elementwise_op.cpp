@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "elementwise/gathered_operand.h"
-#include "frame/loop_policy.h"
+#include "frame/loops/loop_policy.h"
 
 namespace half_utils {
 

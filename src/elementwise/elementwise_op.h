@@ -1,6 +1,5 @@
 // The loops under every operation of two or three operands, compiled once: what is particular to an operation and its
 // element types is a handful of flat passes.
-// Internal: promises nothing to users of the library.
 #pragma once
 
 #include <array>

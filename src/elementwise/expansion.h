@@ -1,11 +1,10 @@
 // Implicit expansion: how the shapes of two or three operands meet, and the walk over the output in runs.
-// Internal: promises nothing to users of the library.
 #pragma once
 
 #include <array>
 #include <vector>
 
-#include "frame/parallel_ranges.h"
+#include "frame/loops/parallel_ranges.h"
 
 namespace half_utils {
 

@@ -1,7 +1,7 @@
 #include "core/instantiate.h"
 #include "core/shape_parameters.h"
 #include "elementwise/ternary_op.h"
-#include "scalar/functors/fma_functor.h"
+#include "scalar/functors/multiply_add_functor.h"
 #include "zthalf/half_ops.h"
 
 namespace half {

@@ -1,5 +1,4 @@
 // An operand of an expansion, read in the order of the output block by block.
-// Internal: promises nothing to users of the library.
 #pragma once
 
 #include <cstddef>

@@ -1,16 +1,10 @@
-#include "core/instantiate.h"
-#include "core/shape_parameters.h"
-#include "elementwise/binary_op.h"
-#include "scalar/functors/two_argument_functors.h"
-#include "zthalf/half_ops.h"
+#include "elementwise/expanding.h"
+#include "scalar/functors/hypot_functors.h"
 
 namespace half {
 
-template <class Left, class Right, class Out>
-void hypot(Left* a, Right* b, Out* c, ZTHALF_THREE_SHAPES) {
-  half_utils::halfBinaryOp<scalar::emulated::hypotFtor>(a, b, c, ZTHALF_THREE_SHAPE_NAMES);
-}
+ZTHALF_EXPANDING(hypot, scalar::emulated::hypotFtor)
 
-ZTHALF_TWENTY_PAIRS(ZTHALF_BINARY_ROW, hypot)
+ZTHALF_HYPOT_ENTRIES(ZTHALF_BINARY_ROW)
 
 }  // namespace half

@@ -1,13 +1,5 @@
-#include "core/shape_parameters.h"
 #include "elementwise/comparison.h"
 
 namespace half {
-
-template <class Left, class Right>
-void le(Left* a, Right* b, bool* c, ZTHALF_THREE_SHAPES) {
-  compare<scalar::emulated::realOps::leFtor, utils::getFirstArgFtor>(a, b, c, ZTHALF_THREE_SHAPE_NAMES);
+ZTHALF_COMPARING(le, getFirstArgFtor)
 }
-
-ZTHALF_COMPARISON(ZTHALF_COMPARISON_ROW, le)
-
-}  // namespace half

@@ -1,13 +1,5 @@
-#include "core/shape_parameters.h"
 #include "elementwise/comparison.h"
 
 namespace half {
-
-template <class Left, class Right>
-void lt(Left* a, Right* b, bool* c, ZTHALF_THREE_SHAPES) {
-  compare<scalar::emulated::realOps::ltFtor, utils::getFirstArgFtor>(a, b, c, ZTHALF_THREE_SHAPE_NAMES);
+ZTHALF_COMPARING(lt, getFirstArgFtor)
 }
-
-ZTHALF_COMPARISON(ZTHALF_COMPARISON_ROW, lt)
-
-}  // namespace half

@@ -1,15 +1,9 @@
-#include "core/instantiate.h"
-#include "core/shape_parameters.h"
-#include "elementwise/binary_op.h"
+#include "elementwise/expanding.h"
 #include "scalar/functors/arithmetic_functors.h"
-#include "zthalf/half_ops.h"
 
 namespace half {
 
-template <class Left, class Right, class Out>
-void rdivide(Left* a, Right* b, Out* c, ZTHALF_THREE_SHAPES) {
-  half_utils::halfBinaryOp<scalar::emulated::rdivideFtor>(a, b, c, ZTHALF_THREE_SHAPE_NAMES);
-}
+ZTHALF_EXPANDING(rdivide, scalar::emulated::rdivideFtor)
 
 ZTHALF_TWENTY_PAIRS(ZTHALF_BINARY_ROW, rdivide)
 

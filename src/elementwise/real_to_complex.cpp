@@ -1,15 +1,10 @@
-#include "core/instantiate.h"
-#include "core/shape_parameters.h"
-#include "elementwise/binary_op.h"
-#include "scalar/functors/bit_functors.h"
-#include "zthalf/half_ops.h"
+// Pairs of a real and an imaginary part.
+#include "elementwise/expanding.h"
+#include "scalar/functors/sign_and_class_functors.h"
 
 namespace half {
 
-template <class Left, class Right, class Out>
-void realToComplex(Left* a, Right* b, Out* c, ZTHALF_THREE_SHAPES) {
-  half_utils::halfBinaryOp<scalar::emulated::realToComplexFtor>(a, b, c, ZTHALF_THREE_SHAPE_NAMES);
-}
+ZTHALF_EXPANDING(realToComplex, scalar::emulated::realToComplexFtor)
 
 ZTHALF_PAIRING_ENTRIES(ZTHALF_BINARY_ROW)
 

@@ -1,5 +1,4 @@
 // The engine under elementwise operations of three operands.
-// Internal: promises nothing to users of the library.
 #pragma once
 
 #include <type_traits>

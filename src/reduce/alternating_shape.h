@@ -1,10 +1,9 @@
 // The shape of a reduction along dimensions, and the walks over its outputs and over what each of them takes in.
-// Internal: promises nothing to users of the library.
 #pragma once
 
 #include <vector>
 
-#include "frame/parallel_ranges.h"
+#include "frame/loops/parallel_ranges.h"
 
 namespace half_utils {
 

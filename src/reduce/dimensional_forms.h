@@ -1,6 +1,5 @@
 // Reduction along dimensions: which values each output takes in, and in which order. The split of the outputs among
 // blocks and threads changes no result, since each output is computed whole in one block.
-// Internal: promises nothing to users of the library.
 #pragma once
 
 #include "reduce/alternating_shape.h"

@@ -1,5 +1,4 @@
 // The one division of a mean: always in double, whatever the sum was made in.
-// Internal: promises nothing to users of the library.
 #pragma once
 
 #include <complex>

@@ -1,11 +1,10 @@
 // min and max of arrays: the whole array, and along dimensions, for real and complex halves.
-// Internal: promises nothing to users of the library.
 #pragma once
 
 #include <algorithm>
 
-#include "reduce/complex_extremum_folds.h"
-#include "reduce/real_extremum_along.h"
+#include "reduce/folds/complex_extremum_folds.h"
+#include "reduce/folds/real_extremum_along.h"
 
 namespace half_utils {
 

@@ -1,8 +1,8 @@
 #include "core/instantiate.h"
 #include "reduce/division.h"
 #include "reduce/folds/counting_fold.h"
-#include "reduce/folds/steps.h"
 #include "reduce/reduction.h"
+#include "reduce/steps/steps.h"
 #include "zthalf/half_reductions.h"
 
 namespace half {

@@ -2,9 +2,9 @@
 
 #include <tbb/parallel_invoke.h>
 
-#include "frame/fork.h"
-#include "frame/lost_threads.h"
-#include "frame/task_order.h"
+#include "frame/loops/fork.h"
+#include "frame/loops/lost_threads.h"
+#include "frame/loops/task_order.h"
 
 namespace half_utils {
 

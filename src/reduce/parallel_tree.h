@@ -1,8 +1,7 @@
 // The fork under a reduction tree's upper levels.
-// Internal: promises nothing to users of the library.
 #pragma once
 
-#include "frame/parallel_ranges.h"
+#include "frame/loops/parallel_ranges.h"
 
 namespace half_utils {
 

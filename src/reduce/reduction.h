@@ -1,13 +1,12 @@
 // From a fold to the functions of the table, and how a chain's end becomes an element of the output.
-// Internal: promises nothing to users of the library.
 #pragma once
 
 #include <complex>
 
 #include "core/float_conversion.h"
 #include "reduce/dimensional_forms.h"
-#include "reduce/folds/value.h"
-#include "reduce/lane_fold.h"
+#include "reduce/folds/lane_fold.h"
+#include "reduce/steps/value.h"
 
 namespace half_utils {
 
@@ -67,3 +66,25 @@ void foldAlong(Source* src, Out* dst, unsigned long ndims, unsigned long const* 
 }
 
 }  // namespace half_utils
+
+// The four functions of a reduction that is a fold of one step, and their instances.
+#define ZTHALF_FOLDS(op, step, stepOmitNaN)                                                                       \
+  template <class In, class Out, class Accumulator>                                                               \
+  void op##SimpleReduce(In* src, Out* dst, unsigned long n) {                                                     \
+    half_utils::foldWhole<step<Accumulator>>(src, dst, n);                                                        \
+  }                                                                                                               \
+  template <class In, class Out, class Accumulator>                                                               \
+  void op##SimpleReduceOmitNaN(In* src, Out* dst, unsigned long n) {                                              \
+    half_utils::foldWhole<stepOmitNaN<Accumulator>>(src, dst, n);                                                 \
+  }                                                                                                               \
+  template <class In, class Out, class Accumulator>                                                               \
+  void op##ReduceFunc(In* src, Out* dst, unsigned long ndims, unsigned long* dims, bool firstDimReduced) {        \
+    half_utils::foldAlong<step<Accumulator>>(src, dst, ndims, dims, firstDimReduced);                             \
+  }                                                                                                               \
+  template <class In, class Out, class Accumulator>                                                               \
+  void op##ReduceFuncOmitNaN(In* src, Out* dst, unsigned long ndims, unsigned long* dims, bool firstDimReduced) { \
+    half_utils::foldAlong<stepOmitNaN<Accumulator>>(src, dst, ndims, dims, firstDimReduced);                      \
+  }                                                                                                               \
+  ZTHALF_SIMPLE_REDUCTIONS(ZTHALF_SIMPLE_REDUCTION_ROW, op)                                                       \
+  ZTHALF_SIMPLE_REDUCTIONS_OMITNAN(ZTHALF_SIMPLE_REDUCTION_ROW, op)                                               \
+  ZTHALF_REDUCTIONS_ALONG_DIMENSIONS(ZTHALF_REDUCTION_ROW, op)

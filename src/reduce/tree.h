@@ -1,7 +1,6 @@
 // The tree of a reduction over contiguous elements. Its form follows from the number of elements alone: a range of more
 // than 256 elements is cut in the middle, the left half being the shorter one, and each range that is left is one chain
 // from its first element to its last. Neither threads nor vector lanes change which value meets which.
-// Internal: promises nothing to users of the library.
 //
 // What is folded is a class of static members:
 //

@@ -1,6 +1,5 @@
 // Which of two complex numbers min and max keep: the order is by length, then by angle. No comparison of the library
 // but these knows it.
-// Internal: promises nothing to users of the library.
 #pragma once
 
 #include <cmath>

@@ -1,10 +1,10 @@
-// exp and expm1 of a half pattern.
-// Internal: promises nothing to users of the library.
+// exp of a half pattern.
 #pragma once
 
 #include <cstdint>
 
 #include "core/float_conversion.h"
+#include "scalar/kernels/logarithm_constants.h"
 
 namespace zthalf {
 
@@ -17,7 +17,6 @@ namespace zthalf {
 // A NaN passes both limits. It gets k = 0, so that the conversion to an integer is defined, and keeps its sign through
 // the quadratic. No branch: a loop over this runs in vector lanes.
 ZTHALF_INLINE std::uint16_t expOf(std::uint16_t x) {
-  constexpr float log2E = floatOf(0x3FB8AA3Bu);  // 1.4426950216293335
   constexpr std::uint32_t below0 = 0x3F7FF406u;  // 0.9998172521591187
   constexpr std::uint32_t below1 = 0x3F2FB63Eu;  // 0.6863745450973511
   constexpr std::uint32_t below2 = 0x3E4F8062u;  // 0.202638179063797
@@ -28,7 +27,7 @@ ZTHALF_INLINE std::uint16_t expOf(std::uint16_t x) {
   const float v = widen<float>(x);
   const float notTooSmall = v < -18.0f ? -18.0f : v;
   const float held = notTooSmall > 12.0f ? 12.0f : notTooSmall;
-  const float t = held * log2E;
+  const float t = held * qsl_scalar::log2E;
 
   const float half = floatOf((bitsOf(t) & 0x80000000u) | bitsOf(0.5f));
   const auto isNumber = maskOf<std::uint32_t>(t == t);
@@ -42,7 +41,5 @@ ZTHALF_INLINE std::uint16_t expOf(std::uint16_t x) {
   const float p = c0 + f * (c1 + f * c2);
   return narrow(floatOf(bitsOf(p) + (static_cast<std::uint32_t>(k) << 23)));
 }
-
-std::uint16_t expm1Of(std::uint16_t x);
 
 }  // namespace zthalf

@@ -1,5 +1,4 @@
 // Which of two numbers min and max keep: halves as patterns, and floats and doubles.
-// Internal: promises nothing to users of the library.
 //
 // One element is held, and a candidate replaces it or does not. A tie never replaces, and the two zeros tie, so of
 // equal elements the first one is kept. What max does is what min does with every comparison turned round.
@@ -50,9 +49,7 @@ ZTHALF_INLINE std::int16_t placeOf(std::uint16_t x) {
   constexpr std::uint16_t nanPlace = static_cast<std::uint16_t>(Kind::nanWins ? firstPlace : lastPlace);
   const std::uint16_t key = static_cast<std::uint16_t>(
       pattern::orderKey(Kind::which == extremum::smallest ? x : static_cast<std::uint16_t>(x ^ pattern::signBit)));
-  const auto isNaN = maskOf<std::uint16_t>(static_cast<std::int16_t>(pattern::magnitudeOf(x)) >
-                                           static_cast<std::int16_t>(pattern::infinity));
-  return static_cast<std::int16_t>(select(isNaN, nanPlace, key));
+  return static_cast<std::int16_t>(select(pattern::nanMask(x), nanPlace, key));
 }
 
 // An omitted NaN gives way to another one: as a candidate it is one place ahead.
@@ -82,9 +79,7 @@ ZTHALF_INLINE bool isReplaced(double held, double candidate) {
 template <class T>
 ZTHALF_INLINE std::uint16_t asResult(T x) {
   if constexpr (isHalfOperand<T>) {
-    const auto isNaN = maskOf<std::uint16_t>(static_cast<std::int16_t>(pattern::magnitudeOf(x)) >
-                                             static_cast<std::int16_t>(pattern::infinity));
-    return select(isNaN, static_cast<std::uint16_t>(pattern::signOf(x) | pattern::quietNaN), x);
+    return select(pattern::nanMask(x), static_cast<std::uint16_t>(pattern::signOf(x) | pattern::quietNaN), x);
   } else {
     return narrow(x);
   }

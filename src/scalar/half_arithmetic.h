@@ -1,5 +1,4 @@
 // Arithmetic and order of halves, on patterns.
-// Internal: promises nothing to users of the library.
 #pragma once
 
 #include <cstdint>

@@ -1,5 +1,4 @@
 // mod and rem of two halves: exact, with quotients that half cannot tell from an integer counted as integers.
-// Internal: promises nothing to users of the library.
 //
 // Both start from the remainder r of |x| by |y|, 0 <= r < |y|, for |x| >= |y|. It is a multiple of the smaller
 // operand's last place and below |y|, so it is a half, and nothing is rounded. Then comes the tolerance: when y has a

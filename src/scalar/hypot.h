@@ -1,5 +1,4 @@
-// hypot of two halves, and of a half and a float.
-// Internal: promises nothing to users of the library.
+// hypot of two halves, and of a half and a float or double.
 #pragma once
 
 #include <cmath>
@@ -8,6 +7,7 @@
 #include "core/bits.h"
 #include "core/float_conversion.h"
 #include "core/patterns.h"
+#include "scalar/kernels/hypot_double.h"
 
 namespace zthalf {
 
@@ -73,6 +73,16 @@ ZTHALF_INLINE std::uint16_t hypotOf(std::uint16_t x, std::uint16_t y) {
 ZTHALF_INLINE std::uint16_t hypotOf(std::uint16_t x, float y) {
   const float magnitude = floatOf(bitsOf(y) & 0x7FFFFFFFu);
   return hypotOfMagnitudes(widenMagnitude<double>(x), static_cast<double>(magnitude));
+}
+
+ZTHALF_INLINE std::uint16_t hypotOf(float x, std::uint16_t y) { return hypotOf(y, x); }
+
+// Beside a double operand the kernel in double has the work.
+inline std::uint16_t hypotOf(std::uint16_t x, double y) {
+  return narrow(qsl_scalar::hypotDouble(widenMagnitude<double>(x), y));
+}
+inline std::uint16_t hypotOf(double x, std::uint16_t y) {
+  return narrow(qsl_scalar::hypotDouble(x, widenMagnitude<double>(y)));
 }
 
 }  // namespace zthalf

@@ -1,11 +1,11 @@
 #include "scalar/logarithm.h"
 
-#include "scalar/kernels/log1p_single.h"
-#include "zthalf/half_scalar.h"
+#include "scalar/kernels/logarithm_constants.h"
 
 namespace zthalf {
 
 using qsl_scalar::exponentFieldOf;
+using qsl_scalar::ln2;
 using qsl_scalar::logSingle;
 using qsl_scalar::withExponentField;
 
@@ -14,12 +14,9 @@ constexpr std::uint16_t minusInfinity = pattern::infinity | pattern::signBit;
 constexpr std::uint16_t negativeNaN = pattern::quietNaN | pattern::signBit;
 }  // namespace
 
-std::uint16_t log1pOf(std::uint16_t x) { return narrow(qsl_scalar::log1pSingle(widen<float>(x))); }
-
 // v = m 2^e with m in [0.5, 1), and log2 v = ln m / ln 2 + e, where the division is a true one. Powers of two are
 // exact. In (1, 1.5), where the two terms would cancel, 2m = v is taken instead, with an exponent of 0.
 std::uint16_t log2Of(std::uint16_t x) {
-  constexpr float ln2 = floatOf(0x3F317218u);  // 0.6931471824645996
   const float v = widen<float>(x);
   if (v == 0.0f) return minusInfinity;
   if (v < 0.0f) return negativeNaN;
@@ -50,12 +47,3 @@ std::uint16_t log10Of(std::uint16_t x) {
 }
 
 }  // namespace zthalf
-
-namespace half_scalar {
-
-half_t log(half_t x) { return {zthalf::logOf(x.bits)}; }
-half_t log1p(half_t x) { return {zthalf::log1pOf(x.bits)}; }
-half_t log2(half_t x) { return {zthalf::log2Of(x.bits)}; }
-half_t log10(half_t x) { return {zthalf::log10Of(x.bits)}; }
-
-}  // namespace half_scalar

@@ -1,5 +1,4 @@
 // Logarithms of a half pattern, and its split into a fraction and an exponent.
-// Internal: promises nothing to users of the library.
 #pragma once
 
 #include <cstdint>
@@ -13,7 +12,6 @@ namespace zthalf {
 
 ZTHALF_INLINE std::uint16_t logOf(std::uint16_t x) { return narrow(qsl_scalar::logSingle(widen<float>(x))); }
 
-std::uint16_t log1pOf(std::uint16_t x);
 std::uint16_t log2Of(std::uint16_t x);
 std::uint16_t log10Of(std::uint16_t x);
 

@@ -1,9 +1,8 @@
-// Sums, differences, products and quotients of operands of any two types, one of them made of halves.
-// Internal: promises nothing to users of the library.
+// sumOf, differenceOf, productOf and quotientOf for operands of any two types, one of them made of halves.
 //
 // An operand is a half pattern, a float, a double, or a complexOf one of these. The operation runs in the wider part
 // type, at least float, on operands taken there exactly, and is rounded to half once. The order in settled() is that of
-// the operands, but with two halves that of half_t's operators.
+// the operands, but with two halves (half_arithmetic.h) that of half_t's operators.
 #pragma once
 
 #include "scalar/complex/complex_value.h"
@@ -13,46 +12,30 @@
 
 namespace zthalf {
 
-// Real operands.
+// Real operands, not both halves.
 
 template <class A, class B>
-ZTHALF_INLINE std::uint16_t realSum(A x, B y) {
-  if constexpr (areMadeOfHalves<A, B>) {
-    return sumOf(x, y);
-  } else {
-    const auto a = exactly<widestOf<A, B>>(x), b = exactly<widestOf<A, B>>(y);
-    return narrow(settled(a + b, a, b));
-  }
+ZTHALF_INLINE std::uint16_t sumOf(A x, B y) {
+  const auto a = exactly<widestOf<A, B>>(x), b = exactly<widestOf<A, B>>(y);
+  return narrow(settled(a + b, a, b));
 }
 
 template <class A, class B>
-ZTHALF_INLINE std::uint16_t realDifference(A x, B y) {
-  if constexpr (areMadeOfHalves<A, B>) {
-    return differenceOf(x, y);
-  } else {
-    const auto a = exactly<widestOf<A, B>>(x), b = exactly<widestOf<A, B>>(y);
-    return narrow(settled(a - b, a, b));
-  }
+ZTHALF_INLINE std::uint16_t differenceOf(A x, B y) {
+  const auto a = exactly<widestOf<A, B>>(x), b = exactly<widestOf<A, B>>(y);
+  return narrow(settled(a - b, a, b));
 }
 
 template <class A, class B>
-ZTHALF_INLINE std::uint16_t realProduct(A x, B y) {
-  if constexpr (areMadeOfHalves<A, B>) {
-    return productOf(x, y);
-  } else {
-    const auto a = exactly<widestOf<A, B>>(x), b = exactly<widestOf<A, B>>(y);
-    return narrow(settled(a * b, a, b));
-  }
+ZTHALF_INLINE std::uint16_t productOf(A x, B y) {
+  const auto a = exactly<widestOf<A, B>>(x), b = exactly<widestOf<A, B>>(y);
+  return narrow(settled(a * b, a, b));
 }
 
 template <class A, class B>
-ZTHALF_INLINE std::uint16_t realQuotient(A x, B y) {
-  if constexpr (areMadeOfHalves<A, B>) {
-    return quotientOf(x, y);
-  } else {
-    const auto a = exactly<widestOf<A, B>>(x), b = exactly<widestOf<A, B>>(y);
-    return narrow(settled(a / b, a, b));
-  }
+ZTHALF_INLINE std::uint16_t quotientOf(A x, B y) {
+  const auto a = exactly<widestOf<A, B>>(x), b = exactly<widestOf<A, B>>(y);
+  return narrow(settled(a / b, a, b));
 }
 
 // Complex sums and differences go part by part. They treat an absent imaginary part differently, on purpose: a sum adds
@@ -60,67 +43,31 @@ ZTHALF_INLINE std::uint16_t realQuotient(A x, B y) {
 // takes the right one's from plus zero.
 
 template <class A, class B>
-ZTHALF_INLINE complexHalf complexSum(complexOf<A> x, complexOf<B> y) {
-  return {realSum(x.re, y.re), realSum(x.im, y.im)};
+ZTHALF_INLINE complexHalf sumOf(complexOf<A> x, complexOf<B> y) {
+  return {sumOf(x.re, y.re), sumOf(x.im, y.im)};
 }
 template <class A, class B>
-ZTHALF_INLINE complexHalf complexSum(complexOf<A> x, B y) {
-  return {realSum(x.re, y), realSum(x.im, B{0})};
+ZTHALF_INLINE complexHalf sumOf(complexOf<A> x, B y) {
+  return {sumOf(x.re, y), sumOf(x.im, B{0})};
 }
 template <class A, class B>
-ZTHALF_INLINE complexHalf complexSum(A x, complexOf<B> y) {
-  return {realSum(x, y.re), realSum(y.im, A{0})};
+ZTHALF_INLINE complexHalf sumOf(A x, complexOf<B> y) {
+  return {sumOf(x, y.re), sumOf(y.im, A{0})};
 }
 
 template <class A, class B>
-ZTHALF_INLINE complexHalf complexDifference(complexOf<A> x, complexOf<B> y) {
-  return {realDifference(x.re, y.re), realDifference(x.im, y.im)};
+ZTHALF_INLINE complexHalf differenceOf(complexOf<A> x, complexOf<B> y) {
+  return {differenceOf(x.re, y.re), differenceOf(x.im, y.im)};
 }
 template <class A, class B>
-ZTHALF_INLINE complexHalf complexDifference(complexOf<A> x, B y) {
-  return {realDifference(x.re, y), partAsHalf(x.im)};
+ZTHALF_INLINE complexHalf differenceOf(complexOf<A> x, B y) {
+  return {differenceOf(x.re, y), asHalf(x.im)};
 }
 template <class A, class B>
-ZTHALF_INLINE complexHalf complexDifference(A x, complexOf<B> y) {
-  return {realDifference(x, y.re), realDifference(A{0}, y.im)};
+ZTHALF_INLINE complexHalf differenceOf(A x, complexOf<B> y) {
+  return {differenceOf(x, y.re), differenceOf(A{0}, y.im)};
 }
 
-// Every pair of operands.
-
-template <class A, class B>
-ZTHALF_INLINE auto anySum(A x, B y) {
-  if constexpr (isComplexOperand<A> || isComplexOperand<B>) {
-    return complexSum(x, y);
-  } else {
-    return realSum(x, y);
-  }
-}
-
-template <class A, class B>
-ZTHALF_INLINE auto anyDifference(A x, B y) {
-  if constexpr (isComplexOperand<A> || isComplexOperand<B>) {
-    return complexDifference(x, y);
-  } else {
-    return realDifference(x, y);
-  }
-}
-
-template <class A, class B>
-ZTHALF_INLINE auto anyProduct(A x, B y) {
-  if constexpr (isComplexOperand<A> || isComplexOperand<B>) {
-    return complexProduct(x, y);
-  } else {
-    return realProduct(x, y);
-  }
-}
-
-template <class A, class B>
-ZTHALF_INLINE auto anyQuotient(A x, B y) {
-  if constexpr (isComplexOperand<A> || isComplexOperand<B>) {
-    return complexQuotient(x, y);
-  } else {
-    return realQuotient(x, y);
-  }
-}
+// Products and quotients with a complex operand: complex/product.h and complex/quotient.h.
 
 }  // namespace zthalf

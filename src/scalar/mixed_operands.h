@@ -1,5 +1,4 @@
 // Operands of mixed type: the type in which they meet, and their values there.
-// Internal: promises nothing to users of the library.
 #pragma once
 
 #include <cstdint>
@@ -40,5 +39,10 @@ ZTHALF_INLINE Wide exactly(T operand) {
     return static_cast<Wide>(operand);
   }
 }
+
+// The operand as a half: what is one stays as it is, a NaN too; the others are rounded.
+ZTHALF_INLINE std::uint16_t asHalf(std::uint16_t operand) { return operand; }
+ZTHALF_INLINE std::uint16_t asHalf(float operand) { return narrow(operand); }
+ZTHALF_INLINE std::uint16_t asHalf(double operand) { return narrow(operand); }
 
 }  // namespace zthalf

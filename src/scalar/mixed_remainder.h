@@ -1,6 +1,5 @@
 // mod and rem of a half and a float or double: the exact remainder there, with a tolerance of the wider type's last
 // place.
-// Internal: promises nothing to users of the library.
 #pragma once
 
 #include <cmath>

@@ -1,5 +1,4 @@
 // x y + z with one effective rounding, for every mixture of halves, floats and doubles.
-// Internal: promises nothing to users of the library.
 //
 // The result has the narrowest of the three types. Without a double factor the product is exact in a working type, and
 // the sum there is made safe for the second rounding; with one, product and sum are fused in double and then rounded.

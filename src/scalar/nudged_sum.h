@@ -1,5 +1,4 @@
 // A sum of two terms that is about to be rounded a second time, to a narrower type.
-// Internal: promises nothing to users of the library.
 #pragma once
 
 #include "core/bits.h"

@@ -1,5 +1,7 @@
 #include "scalar/power_of_halves.h"
 
+#include "zthalf/half_scalar.h"
+
 namespace zthalf {
 
 namespace {
@@ -35,3 +37,10 @@ std::uint16_t powerOfTwoHalves(std::uint16_t x, std::uint16_t y) {
 }
 
 }  // namespace zthalf
+
+namespace half_scalar {
+
+half_t pow2(half_t x) { return {zthalf::pow2Of<qsl_scalar::singleFloatParts>(x.bits)}; }
+half_t pow10(half_t x) { return {zthalf::pow10Of<qsl_scalar::singleFloatParts>(x.bits)}; }
+
+}  // namespace half_scalar

@@ -1,5 +1,4 @@
 // Powers of half patterns: x^y for two halves, 2^y and 10^y.
-// Internal: promises nothing to users of the library.
 //
 // These are the steps of powSingle, free of branches, without those that two halves do not need: no operand is a
 // subnormal or a huge float, and a result far outside the range of half is an infinity or a zero whatever its digits.
@@ -48,9 +47,7 @@ ZTHALF_INLINE std::uint16_t narrowPower(float power) {
 template <class Parts = qsl_scalar::bitwiseParts>
 ZTHALF_INLINE std::uint16_t powerOfBase(qsl_scalar::powers::split log2OfBase, std::uint16_t y) {
   const std::uint16_t power = narrowPower(powerFromLogarithm<Parts>(log2OfBase, widenPower(y)));
-  const auto isNaN = maskOf<std::uint16_t>(static_cast<std::int16_t>(pattern::magnitudeOf(y)) >
-                                           static_cast<std::int16_t>(pattern::infinity));
-  return select(isNaN, static_cast<std::uint16_t>(pattern::quietNaN | pattern::signBit), power);
+  return select(pattern::nanMask(y), static_cast<std::uint16_t>(pattern::quietNaN | pattern::signBit), power);
 }
 
 template <class Parts = qsl_scalar::bitwiseParts>
@@ -79,7 +76,6 @@ ZTHALF_INLINE qsl_scalar::powers::split logarithmOfMagnitude(std::uint32_t magni
 ZTHALF_INLINE std::uint16_t powerOfHalves(std::uint16_t x, std::uint16_t y) {
   constexpr std::uint16_t minusOne = 0xBC00, two = 0x4000, oneHalf = 0x3800;
   const auto is = [](bool condition) { return maskOf<std::uint16_t>(condition); };
-  const auto signedMagnitude = [](std::uint16_t v) { return static_cast<std::int16_t>(pattern::magnitudeOf(v)); };
   const float wideX = widen<float>(x);
   const float wideY = widenPower(y);
   const float power = qsl_scalar::magnitudeOf(wideY);
@@ -103,8 +99,7 @@ ZTHALF_INLINE std::uint16_t powerOfHalves(std::uint16_t x, std::uint16_t y) {
   const auto isOutside = isNegative & ~static_cast<std::uint16_t>(isWholeWord) & ~vanishes;
 
   // A NaN is negative, but to the powers 1, 2, -1 and 0.5 it has the sign of x, and a square root's is positive.
-  const auto xIsNaN = is(signedMagnitude(x) > std::int16_t{pattern::infinity});
-  const auto yIsNaN = is(signedMagnitude(y) > std::int16_t{pattern::infinity});
+  const std::uint16_t xIsNaN = pattern::nanMask(x), yIsNaN = pattern::nanMask(y);
   const auto isRoot = is(y == oneHalf);
   const auto isShort = is(y == pattern::one) | is(y == two) | is(y == minusOne) | isRoot;
   const auto signOfNaN = (~isShort | (x & xIsNaN)) & pattern::signBit;

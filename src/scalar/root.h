@@ -1,5 +1,4 @@
 // Square roots of a half pattern.
-// Internal: promises nothing to users of the library.
 #pragma once
 
 #include <cmath>

@@ -1,6 +1,5 @@
 // ceil, floor, fix and round on patterns. A NaN, a zero of either sign and everything from 1024 on come back as they
 // are; no floating-point arithmetic is done.
-// Internal: promises nothing to users of the library.
 #pragma once
 
 #include <cstdint>

@@ -1,5 +1,4 @@
 // Sign, magnitude and class of a real or complex half: bit work on the pattern, NaN payloads passing through.
-// Internal: promises nothing to users of the library.
 #pragma once
 
 #include <cstdint>

@@ -1,5 +1,4 @@
 // Spacing of halves: eps, nextafter, and the distance of two values in units in the last place.
-// Internal: promises nothing to users of the library.
 #pragma once
 
 #include <cmath>
@@ -9,6 +8,7 @@
 #include "core/float_conversion.h"
 #include "core/patterns.h"
 #include "scalar/half_arithmetic.h"
+#include "scalar/mixed_operands.h"
 
 namespace zthalf {
 
@@ -33,31 +33,20 @@ inline std::uint16_t neighbourOf(std::uint16_t x, std::uint16_t y) {
   return static_cast<std::uint16_t>(up == positive ? x + 1 : x - 1);  // the magnitude grows or shrinks by one step
 }
 
-// What the distance needs to know of an operand, which is a half pattern, a float or a double: its value, exactly; the
-// half it rounds to; and whether it is infinite where that is judged.
-inline double exactValue(std::uint16_t x) { return widen<double>(x); }
-inline double exactValue(double x) { return x; }
-inline std::uint16_t asHalf(std::uint16_t x) { return x; }
-inline std::uint16_t asHalf(float x) { return narrow(x); }
-inline std::uint16_t asHalf(double x) { return narrow(x); }
-
-template <class T>
-inline constexpr bool isHalfPattern = std::is_same_v<T, std::uint16_t>;
-
 // The distance of a and b in units in the last place of half, at the smaller exponent of the two. The values are
 // compared at full width; where one of them is a half, infinity is judged in each operand's own type, and where
 // neither is, on the halves that they round to.
 template <class A, class B>
 double ulpDistance(A a, B b) {
   constexpr double infinite = std::numeric_limits<double>::infinity();
-  const double first = exactValue(a);
-  const double second = exactValue(b);
+  const double first = exactly<double>(a);
+  const double second = exactly<double>(b);
   if (std::isnan(first) && std::isnan(second)) return 0.0;
   if (std::isnan(first) || std::isnan(second)) return infinite;
 
   const std::uint16_t firstHalf = asHalf(a);
   const std::uint16_t secondHalf = asHalf(b);
-  constexpr bool ownType = isHalfPattern<A> || isHalfPattern<B>;
+  constexpr bool ownType = isHalfOperand<A> || isHalfOperand<B>;
   const bool anyInfinite = ownType ? std::isinf(first) || std::isinf(second)
                                    : pattern::isInfinite(firstHalf) || pattern::isInfinite(secondHalf);
   if (!anyInfinite) {

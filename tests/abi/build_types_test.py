@@ -12,7 +12,7 @@ from configured import Tree, optimisation
 
 DISTRIBUTION = '-O2 -g'
 # Compiled in seconds, with vector passes and nothing else.
-SAMPLES = ('src/frame/rounding_unary.cpp', 'src/frame/bitwise_unary.cpp')
+SAMPLES = ('src/frame/unary/rounding.cpp', 'src/frame/unary/sign_and_class.cpp')
 
 CHANGES_BITS = ('-ffast-math', '-Ofast', '-O2 -funsafe-math-optimizations', '-mfpmath=387', '-ffp-model=fast')
 CHANGES_NOTHING = '-mtune=generic -ffp-contract=fast -fno-fast-math -fno-plt -ffunction-sections'

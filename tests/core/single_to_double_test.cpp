@@ -7,7 +7,7 @@
 #include "core/instruction_level.h"
 #include "core/nan_policy.h"
 #include "tests/support/expect_bits.h"
-#include "tests/support/function_hash.h"
+#include "tests/support/sweep.h"
 
 namespace zthalf {
 namespace {

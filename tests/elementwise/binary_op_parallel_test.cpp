@@ -7,7 +7,7 @@
 
 #include "elementwise/binary_op.h"
 #include "scalar/functors/arithmetic_functors.h"
-#include "scalar/functors/rounding_functors.h"
+#include "scalar/functors/spacing_functors.h"
 #include "tests/support/shapes.h"
 #include "tests/support/threads.h"
 

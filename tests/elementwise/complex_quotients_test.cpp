@@ -36,7 +36,7 @@ zthalf::complexHalf bare(complexElement z) { return {z.real().bits, z.imag().bit
 
 template <class A, class B>
 complexElement scalarQuotient(A x, B y) {
-  const zthalf::complexHalf z = zthalf::complexQuotient(bare(x), bare(y));
+  const zthalf::complexHalf z = zthalf::quotientOf(bare(x), bare(y));
   return {half_t{z.re}, half_t{z.im}};
 }
 

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "scalar/functors/fma_functor.h"
+#include "scalar/functors/multiply_add_functor.h"
 #include "tests/support/exact.h"
 #include "tests/support/expect_bits.h"
 #include "tests/support/stage.h"

@@ -7,7 +7,7 @@
 #include <stdexcept>
 #include <vector>
 
-#include "scalar/functors/fma_functor.h"
+#include "scalar/functors/multiply_add_functor.h"
 #include "tests/support/shapes.h"
 #include "tests/support/threads.h"
 

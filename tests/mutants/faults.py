@@ -12,8 +12,8 @@ Fault = namedtuple('Fault', 'name file old new tests release', defaults=(False,)
 FLOAT = 'src/core/float_conversion.h'
 INTEGER = 'src/core/integer_conversion.h'
 NAN = 'src/core/nan_policy.h'
-EARLY_EXIT = 'src/frame/early_exit_loop.h'
-FORK = 'src/frame/fork.h'
+EARLY_EXIT = 'src/frame/loops/early_exit_loop.h'
+FORK = 'src/frame/loops/fork.h'
 EXPANSION = 'src/elementwise/expansion.cpp'
 CONTRACT = 'cmake/CompileContract.cmake'
 
@@ -85,9 +85,9 @@ FAULTS = [
     Fault('asin near one loses its second part', 'src/scalar/kernels/asin_acos_single.cpp',
           'halfPiUpper - ((angle + angle) + halfPiExcess)', 'halfPiUpper - (angle + angle)',
           '^scalar/kernels/asin_acos'),
-    Fault('a stopping loop goes on at minus infinity', 'src/frame/stop_conditions.h',
+    Fault('a stopping loop goes on at minus infinity', 'src/frame/unary/stop_conditions.h',
           'zthalf::pattern::magnitudeOf(x.bits) - 0x3C01) <= 0x7C00 - 0x3C01',
-          'x.bits - 0x3C01) <= 0x7C00 - 0x3C01', '^frame/(inverse|hyperbolic)'),
+          'x.bits - 0x3C01) <= 0x7C00 - 0x3C01', '^frame/unary/elementary'),
 
     # Loops
     Fault('a loop with early exit writes one element too many', EARLY_EXIT,
@@ -107,18 +107,18 @@ FAULTS = [
     Fault('a scan leaves out the last element', EARLY_EXIT,
           'pass(src + i, std::min(scanBlock, n - i), &met)', 'pass(src + i, std::min(scanBlock, n - i - 1), &met)',
           '^frame/'),
-    Fault('a loop runs backwards', 'src/frame/simple_loop.h',
+    Fault('a loop runs backwards', 'src/frame/loops/simple_loop.h',
           'for (unsigned long i = 0; i < n; ++i) dst[i] = Ftor{}(src[i]);',
           'for (unsigned long i = n; i-- > 0;) dst[i] = Ftor{}(src[i]);', '^frame/'),
     Fault('a piece of a scan asks twice where it ends', EARLY_EXIT,
-          'std::min(scanBlock, end - i)', 'std::min(scanBlock, r.end() - i)', '^frame/early_exit_pieces'),
-    Fault('a fork is cancelled with the group of its caller', FORK, 'group::isolated', 'group::bound', '^frame/fork'),
+          'std::min(scanBlock, end - i)', 'std::min(scanBlock, r.end() - i)', '^frame/loops/early_exit_pieces'),
+    Fault('a fork is cancelled with the group of its caller', FORK, 'group::isolated', 'group::bound', '^frame/loops/fork'),
     Fault('tasks run in the floating-point environment of their arena', FORK,
-          'group::fp_settings', 'group::default_traits', '^frame/fork'),
+          'group::fp_settings', 'group::default_traits', '^frame/loops/fork'),
     Fault('a waiting thread takes tasks of the caller', FORK,
-          'tbb::this_task_arena::isolate(loop);', 'loop();', '^frame/fork'),
-    Fault('a copied process gives work to threads that it does not have', 'src/frame/lost_threads.cpp',
-          'return lost.load(std::memory_order_relaxed);', 'return false;', '^frame/forked_process'),
+          'tbb::this_task_arena::isolate(loop);', 'loop();', '^frame/loops/fork'),
+    Fault('a copied process gives work to threads that it does not have', 'src/frame/loops/lost_threads.cpp',
+          'return lost.load(std::memory_order_relaxed);', 'return false;', '^frame/loops/forked_process'),
     Fault('a dimension does not go back to its start', EXPANSION,
           'here.moves[o] * (here.size - 1);', 'here.moves[o] * (here.size - 1 - (here.size > 2));', '^elementwise/'),
     Fault('an operand of size 1 moves', EXPANSION,
@@ -136,7 +136,7 @@ FAULTS = [
 
     # Comparisons and fma
     Fault('eq leaves the imaginary parts out', 'src/elementwise/eq.cpp',
-          'utils::boolAndFtor', 'utils::getFirstArgFtor', '^elementwise/comparison'),
+          'boolAndFtor', 'getFirstArgFtor', '^elementwise/comparison'),
     Fault('integers are held at 65536 less one', 'src/scalar/functors/comparison_functors.h',
           'Integer{1} << 17', 'Integer{65503}', '^(scalar|elementwise)/comparison'),
     Fault('a NaN imaginary part is a zero', 'src/scalar/functors/comparison_functors.h',
@@ -146,18 +146,18 @@ FAULTS = [
           '(bits >> 13) & pattern::quietBit', 'pattern::quietBit', '^scalar/multiply_add'),
 
     # The table and what is exported
-    Fault('an entry is null', 'src/frame/table.cpp',
+    Fault('an entry is null', 'src/frame/table/table.cpp',
           '* entry##Ptr = &half::__VA_ARGS__;', '* entry##Ptr = nullptr;', '^abi/symbols'),
     Fault('an entry has another entry\'s function', 'include/zthalf/detail/entries.h',
           'X(ceil, ceil, Half, Half, ceil)', 'X(ceil, ceil, Half, Half, floor)', '^(frame|golden)/'),
-    Fault('code runs when the library is loaded', 'src/frame/lifecycle.cpp',
+    Fault('code runs when the library is loaded', 'src/frame/table/lifecycle.cpp',
           'unsigned char terminated = 0;', 'unsigned char terminated = half_ptr::isInitialized();', '^abi/symbols'),
     Fault('a function is not exported', 'include/zthalf/half_scalar.h',
           'ZTHALF_API half_t eps(half_t x);', 'half_t eps(half_t x);', '^abi/exports'),
     Fault('core looks upwards', 'src/core/scalar_conversions.cpp',
           '#include "core/integer_conversion.h"', '#include "core/integer_conversion.h"\n#include "scalar/rounding.h"',
           '^abi/layering'),
-    Fault('the facade goes round the table', 'src/frame/facade.cpp',
+    Fault('the facade goes round the table', 'src/frame/table/facade.cpp',
           'return half_ptr::entry##Ptr(bare(src), n);', 'half_ptr::initialized = 1; return half_ptr::entry##Ptr(bare(src), n);',
           '^abi/facade', True),
 
@@ -180,19 +180,19 @@ FAULTS = [
     Fault('an empty run is searched', 'src/reduce/alternating_shape.h',
           'return combinations_ == 0 || (leading_ == 1 && runLength() == 0);', 'return combinations_ == 0;',
           '^reduce/extrema_of_nothing'),
-    Fault('a column stays on one thread however tall', 'src/reduce/real_extremum_along.h',
+    Fault('a column stays on one thread however tall', 'src/reduce/folds/real_extremum_along.h',
           'search.amongMany(run, n)', 'search.among(run, n)', '^reduce/calling_thread'),
-    Fault('of nothing but NaNs the first is found', 'src/reduce/real_extremum.h',
+    Fault('of nothing but NaNs the first is found', 'src/reduce/folds/real_extremum.h',
           'if (smallest == zthalf::lastPlace) return {smallest, n - 1};', '', '^reduce/extrema_whole'),
-    Fault('steps are counted from the last settling on', 'src/reduce/real_extremum_along.h',
+    Fault('steps are counted from the last settling on', 'src/reduce/folds/real_extremum_along.h',
           'base_ = at.combination - step;', 'base_ = 0;', '^reduce/extrema_along'),
-    Fault('complex elements of nearly one length are passed over', 'src/reduce/held_complex.h',
+    Fault('complex elements of nearly one length are passed over', 'src/reduce/folds/held_complex.h',
           'isSmallest ? 1 + margin : 1 - margin', 'isSmallest ? 1 - margin : 1 + margin', '^reduce/extrema'),
-    Fault('the index of a chain that keeps its beginning is left out', 'src/reduce/complex_extremum_folds.h',
+    Fault('the index of a chain that keeps its beginning is left out', 'src/reduce/folds/complex_extremum_folds.h',
           'chain.index = leaf.begin + 1;', '', '^reduce/extrema_whole'),
-    Fault('complex columns with an index begin as those without', 'src/reduce/complex_extremum_folds.h',
+    Fault('complex columns with an index begin as those without', 'src/reduce/folds/complex_extremum_folds.h',
           'at.combination == 0 ? partial :', '', '^reduce/extrema'),
-    Fault('positions in the whole array go by the fastest dimension alone', 'src/reduce/extremum_position.h',
+    Fault('positions in the whole array go by the fastest dimension alone', 'src/reduce/folds/extremum_position.h',
           'combination % shape.size(p) * shape.stride(p)', 'combination * shape.stride(p)', '^reduce/extrema_along'),
 
     # Complex halves and mixed operands
@@ -215,15 +215,15 @@ FAULTS = [
           'pattern::signOf(~x.im) & way.isReal', 'pattern::signOf(x.im) & way.isReal',
           '^elementwise/(arithmetic|complex_quotients)'),
     Fault('an absent imaginary part is added as minus zero', 'src/scalar/mixed_arithmetic.h',
-          'realSum(x.im, B{0})', 'partAsHalf(x.im)', '^elementwise/arithmetic'),
+          'sumOf(x.im, B{0})', 'asHalf(x.im)', '^elementwise/arithmetic'),
 
     # Sums, products and means
     Fault('the left half of an odd range is the longer one', 'src/reduce/tree.h',
           'return begin + (end - begin) / 2;', 'return begin + (end - begin + 1) / 2;', '^reduce/'),
     Fault('a mean in single skips a rounding', 'src/reduce/division.h',
           'outputPart<Out>::of(static_cast<float>(q))', 'outputPart<Out>::of(q)', '^reduce/'),
-    Fault('a NaN left out of a product in double counts as zero', 'src/reduce/folds/steps.h',
+    Fault('a NaN left out of a product in double counts as zero', 'src/reduce/steps/steps.h',
           'neutral = zthalf::pattern::one', 'neutral = zthalf::pattern::zero', '^reduce/'),
-    Fault('a column keeps the NaN of its total first', 'src/reduce/lane_fold.h',
+    Fault('a column keeps the NaN of its total first', 'src/reduce/folds/lane_fold.h',
           'Step::settled(partial, total)\n', 'Step::settled(total, partial)\n', '^reduce/'),
 ]

@@ -7,10 +7,11 @@
 #include <type_traits>
 
 #include "scalar/functors/arithmetic_functors.h"
-#include "scalar/functors/bit_functors.h"
 #include "scalar/functors/cast_functor.h"
 #include "scalar/functors/elementwise_functors.h"
 #include "scalar/functors/rounding_functors.h"
+#include "scalar/functors/sign_and_class_functors.h"
+#include "scalar/functors/spacing_functors.h"
 #include "tests/support/expect_bits.h"
 #include "tests/support/patterns.h"
 #include "tests/support/reference.h"

@@ -1,4 +1,3 @@
-#include "scalar/hyperbolic.h"
 
 #include <gtest/gtest.h>
 

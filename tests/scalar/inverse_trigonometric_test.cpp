@@ -1,4 +1,3 @@
-#include "scalar/inverse_trigonometric.h"
 
 #include <gtest/gtest.h>
 

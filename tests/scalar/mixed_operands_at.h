@@ -8,7 +8,7 @@
 
 #include "core/float_conversion.h"
 #include "tests/support/expect_bits.h"
-#include "tests/support/function_hash.h"
+#include "tests/support/sweep.h"
 #include "zthalf/half_t.h"
 
 namespace zthalf::testing {

@@ -7,12 +7,12 @@
 #include <limits>
 #include <type_traits>
 
-#include "scalar/functors/fma_functor.h"
+#include "scalar/functors/multiply_add_functor.h"
 #include "tests/support/exact.h"
 #include "tests/support/expect_bits.h"
-#include "tests/support/function_hash.h"
 #include "tests/support/patterns.h"
 #include "tests/support/reference.h"
+#include "tests/support/sweep.h"
 #include "zthalf/half_scalar.h"
 
 namespace zthalf::testing {

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "elementwise/binary_op.h"
-#include "scalar/functors/two_argument_functors.h"
+#include "scalar/functors/power_functors.h"
 #include "scalar/kernels/pow_single.h"
 #include "tests/support/expect_bits.h"
 #include "tests/support/patterns.h"

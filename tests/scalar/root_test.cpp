@@ -1,4 +1,3 @@
-#include "scalar/root.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,3 @@
-#include "scalar/trigonometric.h"
 
 #include <gtest/gtest.h>
 

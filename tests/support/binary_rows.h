@@ -8,7 +8,6 @@
 #include "tests/support/shapes.h"
 #include "tests/support/unary_rows.h"
 #include "zthalf/detail/entries.h"
-#include "zthalf/half_extrema.h"
 #include "zthalf/half_ops.h"
 #include "zthalf/half_ptr.h"
 #include "zthalf/half_vector.h"

@@ -4,7 +4,7 @@
 
 #include <stdexcept>
 
-#include "frame/task_order.h"
+#include "frame/loops/task_order.h"
 
 namespace zthalf::testing {
 

@@ -9,7 +9,7 @@
 #include <string>
 #include <thread>
 
-#include "frame/parallel_ranges.h"
+#include "frame/loops/parallel_ranges.h"
 #include "tests/support/drawn_values.h"
 #include "tests/support/threads.h"
 

@@ -8,8 +8,8 @@
 #include "tests/support/drawn_values.h"
 #include "tests/support/extremum_steps.h"
 #include "zthalf/detail/entries.h"
-#include "zthalf/half_extrema.h"
 #include "zthalf/half_ptr.h"
+#include "zthalf/half_vector.h"
 
 namespace zthalf::testing {
 

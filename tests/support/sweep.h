@@ -13,6 +13,14 @@
 
 namespace zthalf::testing {
 
+// One step of splitmix64.
+inline std::uint64_t scrambled(std::uint64_t x) {
+  x += 0x9E3779B97F4A7C15u;
+  x = (x ^ (x >> 30)) * 0xBF58476D1CE4E5B9u;
+  x = (x ^ (x >> 27)) * 0x94D049BB133111EBu;
+  return x ^ (x >> 31);
+}
+
 // work(first, end) on blocks of [0, count), each of them once.
 template <class Work>
 void inBlocks(std::uint64_t count, Work work) {

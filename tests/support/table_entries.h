@@ -2,7 +2,6 @@
 #pragma once
 
 #include "zthalf/detail/entries.h"
-#include "zthalf/half_extrema.h"
 #include "zthalf/half_ops.h"
 #include "zthalf/half_ptr.h"
 #include "zthalf/half_reductions.h"

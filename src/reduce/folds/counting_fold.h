@@ -1,10 +1,9 @@
 // A sum that skips NaNs and counts what it did not skip.
-// Internal: promises nothing to users of the library.
 #pragma once
 
 #include <algorithm>
 
-#include "reduce/lane_fold.h"
+#include "reduce/folds/lane_fold.h"
 
 namespace half_utils {
 

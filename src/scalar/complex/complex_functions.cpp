@@ -8,39 +8,35 @@ namespace half_scalar {
 
 namespace {
 
-using complexHalf = std::complex<half_t>;
-
-zthalf::complexHalf bare(complexHalf z) { return {z.real().bits, z.imag().bits}; }
+using zthalf::bare;
+using complexValue = std::complex<half_t>;
 
 // A real function on each part.
 template <class Function>
-complexHalf onParts(complexHalf z, Function f) {
+complexValue onParts(complexValue z, Function f) {
   return {half_t{f(z.real().bits)}, half_t{f(z.imag().bits)}};
 }
 
 }  // namespace
 
-complexHalf uminus(complexHalf z) {
+complexValue uminus(complexValue z) {
   return {half_t{zthalf::negated(z.real().bits)}, half_t{zthalf::negatedUnlessZero(z.imag().bits)}};
 }
-complexHalf conj(complexHalf z) { return {z.real(), half_t{zthalf::negatedUnlessZero(z.imag().bits)}}; }
+complexValue conj(complexValue z) { return {z.real(), half_t{zthalf::negatedUnlessZero(z.imag().bits)}}; }
 
-complexHalf ceil(complexHalf z) { return onParts(z, zthalf::ceilOf); }
-complexHalf floor(complexHalf z) { return onParts(z, zthalf::floorOf); }
-complexHalf fix(complexHalf z) { return onParts(z, zthalf::fixOf); }
-complexHalf round(complexHalf z) { return onParts(z, zthalf::roundOf); }
+complexValue ceil(complexValue z) { return onParts(z, zthalf::ceilOf); }
+complexValue floor(complexValue z) { return onParts(z, zthalf::floorOf); }
+complexValue fix(complexValue z) { return onParts(z, zthalf::fixOf); }
+complexValue round(complexValue z) { return onParts(z, zthalf::roundOf); }
 
-complexHalf sign(complexHalf z) {
-  const zthalf::complexHalf direction = zthalf::directionOf(bare(z));
-  return {half_t{direction.re}, half_t{direction.im}};
-}
-half_t abs(complexHalf z) { return {zthalf::magnitudeOf(bare(z))}; }
-half_t eps(complexHalf z) { return {zthalf::epsOf(bare(z))}; }
+complexValue sign(complexValue z) { return zthalf::dressed(zthalf::directionOf(bare(z))); }
+half_t abs(complexValue z) { return {zthalf::magnitudeOf(bare(z))}; }
+half_t eps(complexValue z) { return {zthalf::epsOf(bare(z))}; }
 
-bool isnan(complexHalf z) { return isnan(z.real()) || isnan(z.imag()); }
-bool isinf(complexHalf z) { return isinf(z.real()) || isinf(z.imag()); }
-bool isfinite(complexHalf z) { return isfinite(z.real()) && isfinite(z.imag()); }
+bool isnan(complexValue z) { return isnan(z.real()) || isnan(z.imag()); }
+bool isinf(complexValue z) { return isinf(z.real()) || isinf(z.imag()); }
+bool isfinite(complexValue z) { return isfinite(z.real()) && isfinite(z.imag()); }
 
-half_t hypot(complexHalf x, complexHalf y) { return hypot(abs(x), abs(y)); }
+half_t hypot(complexValue x, complexValue y) { return hypot(abs(x), abs(y)); }
 
 }  // namespace half_scalar

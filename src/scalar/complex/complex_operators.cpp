@@ -4,24 +4,20 @@
 #include "zthalf/half_scalar.h"
 #include "zthalf/half_t.h"
 
-namespace {
-
-zthalf::complexHalf bare(std::complex<half_t> z) { return {z.real().bits, z.imag().bits}; }
-std::complex<half_t> dressed(zthalf::complexHalf z) { return {half_t{z.re}, half_t{z.im}}; }
-
-}  // namespace
+using zthalf::bare;
+using zthalf::dressed;
 
 std::complex<half_t> operator+(std::complex<half_t> x, std::complex<half_t> y) {
-  return dressed(zthalf::complexSum(bare(x), bare(y)));
+  return dressed(zthalf::sumOf(bare(x), bare(y)));
 }
 std::complex<half_t> operator-(std::complex<half_t> x, std::complex<half_t> y) {
-  return dressed(zthalf::complexDifference(bare(x), bare(y)));
+  return dressed(zthalf::differenceOf(bare(x), bare(y)));
 }
 std::complex<half_t> operator*(std::complex<half_t> x, std::complex<half_t> y) {
-  return dressed(zthalf::complexProduct(bare(x), bare(y)));
+  return dressed(zthalf::productOf(bare(x), bare(y)));
 }
 std::complex<half_t> operator/(std::complex<half_t> x, std::complex<half_t> y) {
-  return dressed(zthalf::complexQuotient(bare(x), bare(y)));
+  return dressed(zthalf::quotientOf(bare(x), bare(y)));
 }
 std::complex<half_t> operator-(std::complex<half_t> z) { return half_scalar::uminus(z); }
 

@@ -1,13 +1,14 @@
 // A complex value as the element functions see it: two half patterns, floats or doubles, and the type it is worked in.
-// Internal: promises nothing to users of the library.
 #pragma once
 
+#include <complex>
 #include <cstdint>
 #include <type_traits>
 
 #include "core/float_conversion.h"
 #include "core/float_unit.h"
 #include "scalar/mixed_operands.h"
+#include "zthalf/half_t.h"
 
 namespace zthalf {
 
@@ -31,6 +32,9 @@ struct partOf<complexOf<T>> {
 template <class T>
 inline constexpr bool isComplexOperand = !std::is_same_v<T, typename partOf<T>::type>;
 
+template <class A, class B>
+concept hasComplexOperand = isComplexOperand<A> || isComplexOperand<B>;
+
 // Whether both operands are made of halves: such pairs have rules of their own for which NaN is delivered.
 template <class A, class B>
 inline constexpr bool areMadeOfHalves =
@@ -45,11 +49,6 @@ ZTHALF_INLINE complexOf<Wide> exactly(complexOf<T> z) {
   return {exactly<Wide>(z.re), exactly<Wide>(z.im)};
 }
 
-// A part kept as it is if it is a half, rounded to half otherwise.
-ZTHALF_INLINE std::uint16_t partAsHalf(std::uint16_t part) { return part; }
-ZTHALF_INLINE std::uint16_t partAsHalf(float part) { return narrow(part); }
-ZTHALF_INLINE std::uint16_t partAsHalf(double part) { return narrow(part); }
-
 template <class Wide>
 ZTHALF_INLINE complexHalf narrowed(complexOf<Wide> z) {
   return {narrow(z.re), narrow(z.im)};
@@ -59,6 +58,10 @@ template <class Wide>
 ZTHALF_INLINE bool hasNaN(complexOf<Wide> z) {
   return (z.re != z.re) | (z.im != z.im);
 }
+
+// From the value type, and back.
+inline complexHalf bare(std::complex<half_t> z) { return {z.real().bits, z.imag().bits}; }
+inline std::complex<half_t> dressed(complexHalf z) { return {half_t{z.re}, half_t{z.im}}; }
 
 // The formula on the processor's unit, or where a NaN comes out, on the defining one.
 template <class Formula>

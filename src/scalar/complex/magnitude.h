@@ -1,5 +1,4 @@
 // Magnitude, spacing and direction of a complex half.
-// Internal: promises nothing to users of the library.
 #pragma once
 
 #include <cstdint>

@@ -1,9 +1,8 @@
-// hypot of operands of any two types: of a complex operand its magnitude takes part.
-// Internal: promises nothing to users of the library.
+// hypot with a complex operand of any type: its magnitude takes part.
 #pragma once
 
 #include "scalar/complex/magnitude.h"
-#include "scalar/two_argument.h"
+#include "scalar/hypot.h"
 
 namespace zthalf {
 
@@ -24,15 +23,10 @@ ZTHALF_INLINE T asReal(complexOf<T> z) {
   return magnitudeOf(z);
 }
 
-// Real for two real operands, otherwise complex with an imaginary part of plus zero.
+// Complex, with an imaginary part of plus zero.
 template <class A, class B>
-ZTHALF_INLINE auto anyHypot(A x, B y) {
-  const std::uint16_t length = hypotOf(asReal(x), asReal(y));
-  if constexpr (isComplexOperand<A> || isComplexOperand<B>) {
-    return complexHalf{length, pattern::zero};
-  } else {
-    return length;
-  }
+requires hasComplexOperand<A, B> ZTHALF_INLINE complexHalf hypotOf(A x, B y) {
+  return {hypotOf(asReal(x), asReal(y)), pattern::zero};
 }
 
 }  // namespace zthalf

@@ -1,8 +1,8 @@
 // Products with a complex operand.
-// Internal: promises nothing to users of the library.
 //
 // A part that is zero takes no part in the arithmetic: a real or imaginary number times anything leaves no spurious
-// NaN, as infinity times the zero part would. What is left away is left away before it is computed.
+// NaN, as infinity times the zero part would. A term with a zero part is never computed, so it
+// makes no NaN.
 #pragma once
 
 #include "scalar/complex/complex_value.h"
@@ -72,7 +72,7 @@ ZTHALF_INLINE complexHalf timesRealHalf(complexHalf z, std::uint16_t x) {
 
 // The product of two complex operands, or of a complex and a real one.
 template <class A, class B>
-ZTHALF_INLINE complexHalf complexProduct(A x, B y) {
+requires hasComplexOperand<A, B> ZTHALF_INLINE complexHalf productOf(A x, B y) {
   if constexpr (isComplexOperand<A> && isComplexOperand<B>) {
     using part =
         std::conditional_t<isHalfOperand<typename partOf<A>::type>, typename partOf<B>::type, typename partOf<A>::type>;

@@ -1,5 +1,4 @@
-// The product of two complex halves without a branch, for passes in vector lanes: the bits of complexProduct.
-// Internal: promises nothing to users of the library.
+// The product of two complex halves without a branch, for passes in vector lanes: the bits of productOf.
 #pragma once
 
 #include <cstdint>

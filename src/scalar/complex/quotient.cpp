@@ -5,8 +5,8 @@
 
 namespace zthalf {
 
-complexHalf quotientOfHalves(complexHalf x, complexHalf y) { return complexQuotient(x, y); }
-complexHalf quotientOfHalves(complexHalf x, std::uint16_t y) { return complexQuotient(x, y); }
-complexHalf quotientOfHalves(std::uint16_t x, complexHalf y) { return complexQuotient(x, y); }
+complexHalf quotientOfHalves(complexHalf x, complexHalf y) { return quotientOf(x, y); }
+complexHalf quotientOfHalves(complexHalf x, std::uint16_t y) { return quotientOf(x, y); }
+complexHalf quotientOfHalves(std::uint16_t x, complexHalf y) { return quotientOf(x, y); }
 
 }  // namespace zthalf

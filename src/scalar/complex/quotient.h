@@ -1,5 +1,4 @@
 // Quotients with a complex operand.
-// Internal: promises nothing to users of the library.
 //
 // As in the product, a part that is zero takes no part. Otherwise a quotient is the textbook one, (x conj y) / |y|^2,
 // where the squares do not overflow, and Smith's form where they do; divisors on the diagonals need neither.
@@ -34,7 +33,7 @@ complexOf<Wide> byDiagonal(Unit, complexOf<Wide> x, complexOf<Wide> y) {
   return {Unit::quotient(Unit::difference(a, b), y.re), Unit::quotient(Unit::sum(a, b), y.re)};
 }
 
-// The divisor has a real part of zero, the imaginary part is none.
+// The divisor is i d, with d not zero.
 template <class Unit, class Wide>
 complexOf<Wide> byImaginary(Unit, complexOf<Wide> x, Wide d) {
   return {x.re != 0 && x.im == 0 ? 0 : Unit::quotient(x.im, d),
@@ -117,7 +116,7 @@ complexOf<Wide> quotientOfReal(Unit unit, Wide a, complexOf<Wide> y) {
 
 // x / y where either operand or both are complex.
 template <class A, class B>
-complexHalf complexQuotient(A x, B y) {
+requires hasComplexOperand<A, B> complexHalf quotientOf(A x, B y) {
   using wide = workingTypeOf<A, B>;
   return narrowed(onDefinedUnit([&](auto unit) {
     if constexpr (!isComplexOperand<B>) {

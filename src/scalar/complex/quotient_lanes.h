@@ -1,6 +1,5 @@
-// Quotients of halves with a complex operand without a branch, for passes in vector lanes: the bits of complexQuotient
+// Quotients of halves with a complex operand without a branch, for passes in vector lanes: the bits of quotientOf
 // but for the signs of NaNs, which quotient_nan_signs.h knows, and for elements that are left to the scalar function.
-// Internal: promises nothing to users of the library.
 //
 // Every way of dividing by finite numbers has one form: with the dividend a + b i, two factors e and f and a divisor g,
 //
@@ -34,9 +33,6 @@ struct quotientInLanes {
 // Masks of lanes of 16 bits.
 ZTHALF_INLINE std::uint16_t zeroMask(std::uint16_t x) { return maskOf<std::uint16_t>(pattern::isZero(x)); }
 ZTHALF_INLINE std::uint16_t infinityMask(std::uint16_t x) { return maskOf<std::uint16_t>(pattern::isInfinite(x)); }
-ZTHALF_INLINE std::uint16_t nanMask(std::uint16_t x) {
-  return maskOf<std::uint16_t>(static_cast<std::int16_t>(pattern::magnitudeOf(x)) > std::int16_t{pattern::infinity});
-}
 ZTHALF_INLINE std::uint16_t notFiniteMask(std::uint16_t x) {
   return maskOf<std::uint16_t>(static_cast<std::int16_t>(pattern::magnitudeOf(x)) >= std::int16_t{pattern::infinity});
 }
@@ -112,7 +108,7 @@ ZTHALF_INLINE quotientInLanes plainQuotientInLanes(std::uint16_t x, complexHalf 
   return {{static_cast<std::uint16_t>((narrow(re) & ~way.isImaginary) | signedZero),
            static_cast<std::uint16_t>(narrow(im) & ~way.isReal)},
           static_cast<std::uint16_t>(infinityMask(x) | infinityMask(y.re) | infinityMask(y.im) |
-                                     (way.isImaginary & nanMask(y.im)))};
+                                     (way.isImaginary & pattern::nanMask(y.im)))};
 }
 
 }  // namespace zthalf

@@ -1,6 +1,5 @@
 // The signs of NaNs among quotients of halves with a complex operand, in lanes of 16 bits: what the order of operations
 // in quotient.h makes of them on the defining unit. For pairs that are not left to the scalar function.
-// Internal: promises nothing to users of the library.
 #pragma once
 
 #include "core/nan_policy.h"
@@ -10,11 +9,11 @@ namespace zthalf {
 
 // The sign that an operation on (first, second) delivers where one of them is a NaN, elsewhere that of a later one.
 ZTHALF_INLINE std::uint16_t signOfNaNOr(std::uint16_t first, std::uint16_t second, std::uint16_t later) {
-  return select<std::uint16_t>(nanMask(first) | nanMask(second), signOfNaN(first, second), later);
+  return select<std::uint16_t>(pattern::nanMask(first) | pattern::nanMask(second), signOfNaN(first, second), later);
 }
 
 ZTHALF_INLINE std::uint16_t withNaNSign(std::uint16_t quotient, std::uint16_t sign) {
-  const std::uint16_t isNaN = nanMask(quotient) & pattern::signBit;
+  const std::uint16_t isNaN = pattern::nanMask(quotient) & pattern::signBit;
   return static_cast<std::uint16_t>((quotient & ~isNaN) | (sign & isNaN));
 }
 
@@ -24,7 +23,7 @@ ZTHALF_INLINE complexHalf withNaNSigns(complexHalf quotient, complexHalf x, comp
   const auto [a, b] = x;
   const auto [c, d] = y;
   // Where the signs of a diagonal's parts differ, the imaginary part is a sum with a as its first term, elsewhere b.
-  const std::uint16_t isOpposite = divisorWay(y).isDiagonal & ~equalMask(c, d) & ~nanMask(c);
+  const std::uint16_t isOpposite = divisorWay(y).isDiagonal & ~equalMask(c, d) & ~pattern::nanMask(c);
   const std::uint16_t ad = signOfNaN(a, d), cb = signOfNaN(c, b);
   const std::uint16_t im = select(isOpposite, signOfNaNOr(a, d, cb), signOfNaNOr(c, b, ad));
   return {withNaNSign(quotient.re, signOfNaNOr(a, c, signOfNaN(b, d))), withNaNSign(quotient.im, im)};
@@ -40,7 +39,7 @@ ZTHALF_INLINE complexHalf withNaNSigns(complexHalf quotient, std::uint16_t a, co
   const std::uint16_t re = select<std::uint16_t>(way.isReal, signOfNaN(a, c), signOfNaNOr(c, a, d));
   // On a diagonal the product is the second operand of a sum or a difference, elsewhere its sign is turned over.
   const std::uint16_t turned = signOfNaNOr(d, a, c ^ pattern::signBit) ^ pattern::signBit;
-  const std::uint16_t im = select<std::uint16_t>(way.isDiagonal & ~nanMask(c), a, turned);
+  const std::uint16_t im = select<std::uint16_t>(way.isDiagonal & ~pattern::nanMask(c), a, turned);
   return {withNaNSign(quotient.re, re), withNaNSign(quotient.im, im)};
 }
 

@@ -1,5 +1,4 @@
 // Functors of the arithmetic operations, on every pair of operands.
-// Internal: promises nothing to users of the library.
 #pragma once
 
 #include <concepts>
@@ -18,7 +17,7 @@ struct plusFtor {
   static constexpr bool baseOnlyFor = isMixedComplexPair<A, B>;
   template <class A, class B>
   ZTHALF_INLINE auto operator()(A x, B y) const {
-    return element(zthalf::anySum(plainOperand(x), plainOperand(y)));
+    return asElement(zthalf::sumOf(plainOperand(x), plainOperand(y)));
   }
 };
 
@@ -28,7 +27,7 @@ struct minusFtor {
   static constexpr bool baseOnlyFor = isMixedComplexPair<A, B>;
   template <class A, class B>
   ZTHALF_INLINE auto operator()(A x, B y) const {
-    return element(zthalf::anyDifference(plainOperand(x), plainOperand(y)));
+    return asElement(zthalf::differenceOf(plainOperand(x), plainOperand(y)));
   }
 };
 
@@ -38,13 +37,14 @@ struct timesFtor {
   static constexpr bool baseOnlyFor = isMixedComplexPair<A, B>;
   template <class A, class B>
   ZTHALF_INLINE auto operator()(A x, B y) const {
-    return element(zthalf::anyProduct(plainOperand(x), plainOperand(y)));
+    return asElement(zthalf::productOf(plainOperand(x), plainOperand(y)));
   }
 
   // Two complex halves, in vector lanes.
   template <class T1, class T2>
-  requires(std::same_as<std::remove_pointer_t<T1>, complexHalf>&& std::same_as<std::remove_pointer_t<T2>, complexHalf>)
-      ZTHALF_INLINE static void runInBlocks(T1 a, T2 b, complexHalf* c, unsigned long n) {
+  requires(std::same_as<std::remove_pointer_t<T1>, element::CplxHalf>&&
+               std::same_as<std::remove_pointer_t<T2>, element::CplxHalf>) ZTHALF_INLINE
+      static void runInBlocks(T1 a, T2 b, element::CplxHalf* c, unsigned long n) {
     complexProductBlocks(a, b, c, n);
   }
 };
@@ -56,9 +56,9 @@ struct rdivideFtor {
   template <class A, class B>
   ZTHALF_INLINE auto operator()(A x, B y) const {
     if constexpr (isComplexPairOfHalves<A, B>) {
-      return element(zthalf::quotientOfHalves(plainOperand(x), plainOperand(y)));
+      return asElement(zthalf::quotientOfHalves(plainOperand(x), plainOperand(y)));
     } else {
-      return element(zthalf::anyQuotient(plainOperand(x), plainOperand(y)));
+      return asElement(zthalf::quotientOf(plainOperand(x), plainOperand(y)));
     }
   }
 
@@ -67,7 +67,7 @@ struct rdivideFtor {
   static constexpr bool repeatsSinglesFor = isComplexPairOfHalves<A, B>;
   template <class A, class B>
   requires isComplexPairOfHalves<A, B>
-  static void runInBlocks(A* a, B* b, complexHalf* c, unsigned long n) { complexQuotientBlocks(a, b, c, n); }
+  static void runInBlocks(A* a, B* b, element::CplxHalf* c, unsigned long n) { complexQuotientBlocks(a, b, c, n); }
 };
 
 }  // namespace half::scalar::emulated

@@ -1,5 +1,4 @@
 // The one conversion functor.
-// Internal: promises nothing to users of the library.
 #pragma once
 
 #include <type_traits>

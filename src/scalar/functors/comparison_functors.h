@@ -1,5 +1,4 @@
 // Functors of the six comparisons of real operands.
-// Internal: promises nothing to users of the library.
 #pragma once
 
 #include <concepts>
@@ -20,7 +19,7 @@ struct logicalElement {
   std::uint8_t byte;
 };
 
-// Stands against an imaginary part where the other operand has none.
+// Stands against an imaginary part where the other operand has none. Only eq and ne look at imaginary parts.
 struct noImaginaryPart {};
 
 namespace realOps {
@@ -90,12 +89,7 @@ struct inequality {
   ZTHALF_INLINE static bool againstZero(bool isZero) { return !isZero; }
 };
 
-// Orderings look at real parts alone: what they say of imaginary parts is never asked for.
-struct ordering {
-  ZTHALF_INLINE static bool againstZero(bool) { return false; }
-};
-
-struct lessThan : ordering {
+struct lessThan {
   ZTHALF_INLINE static bool ofHalves(std::uint16_t a, std::uint16_t b) { return zthalf::isLess(a, b); }
   template <class Wide>
   ZTHALF_INLINE static bool ofNumbers(Wide a, Wide b) {
@@ -103,7 +97,7 @@ struct lessThan : ordering {
   }
 };
 
-struct greaterThan : ordering {
+struct greaterThan {
   ZTHALF_INLINE static bool ofHalves(std::uint16_t a, std::uint16_t b) { return zthalf::isGreater(a, b); }
   template <class Wide>
   ZTHALF_INLINE static bool ofNumbers(Wide a, Wide b) {
@@ -111,7 +105,7 @@ struct greaterThan : ordering {
   }
 };
 
-struct lessOrEqual : ordering {
+struct lessOrEqual {
   ZTHALF_INLINE static bool ofHalves(std::uint16_t a, std::uint16_t b) { return zthalf::isLessOrEqual(a, b); }
   template <class Wide>
   ZTHALF_INLINE static bool ofNumbers(Wide a, Wide b) {
@@ -119,7 +113,7 @@ struct lessOrEqual : ordering {
   }
 };
 
-struct greaterOrEqual : ordering {
+struct greaterOrEqual {
   ZTHALF_INLINE static bool ofHalves(std::uint16_t a, std::uint16_t b) { return zthalf::isGreaterOrEqual(a, b); }
   template <class Wide>
   ZTHALF_INLINE static bool ofNumbers(Wide a, Wide b) {

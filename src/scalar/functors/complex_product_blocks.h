@@ -1,5 +1,4 @@
 // The pass over products of complex halves: quick for most data, and never slow.
-// Internal: promises nothing to users of the library.
 #pragma once
 
 #include <algorithm>

@@ -1,5 +1,4 @@
 // The pass over quotients of halves with a complex operand: in vector lanes, but for the pairs that are left.
-// Internal: promises nothing to users of the library.
 #pragma once
 
 #include <algorithm>
@@ -22,13 +21,13 @@ template <class A, class B>
 struct quotientBlocksPass {
   static constexpr bool isWide = true;
 
-  ZTHALF_INLINE static void run(A* a, B* b, complexHalf* c, unsigned long blocks) {
+  ZTHALF_INLINE static void run(A* a, B* b, element::CplxHalf* c, unsigned long blocks) {
     for (unsigned long block = 0; block < blocks; ++block)
       one(a + block * quotientBlock, b + block * quotientBlock, c + block * quotientBlock);
   }
 
  private:
-  ZTHALF_INLINE static void one(A* a, B* b, complexHalf* c) {
+  ZTHALF_INLINE static void one(A* a, B* b, element::CplxHalf* c) {
     std::uint16_t re[quotientBlock], im[quotientBlock], isLeft[quotientBlock];
     std::uint32_t anyLeft = 0, anyNaN = 0;  // words wider than the masks: clang gives up on narrow ones
     for (unsigned long i = 0; i < quotientBlock; ++i) {
@@ -37,7 +36,7 @@ struct quotientBlocksPass {
       im[i] = quotient.value.im;
       isLeft[i] = quotient.isLeft;
       anyLeft |= quotient.isLeft;
-      anyNaN |= zthalf::nanMask(quotient.value.re) | zthalf::nanMask(quotient.value.im);
+      anyNaN |= zthalf::pattern::nanMask(quotient.value.re) | zthalf::pattern::nanMask(quotient.value.im);
     }
     const auto keep = [&](unsigned long i, zthalf::complexHalf quotient) {
       re[i] = quotient.re;
@@ -61,24 +60,24 @@ struct quotientBlocksPass {
 };
 
 template <class A, class B>
-void quotientsOneByOne(A* a, B* b, complexHalf* c, unsigned long n) {
+void quotientsOneByOne(A* a, B* b, element::CplxHalf* c, unsigned long n) {
   for (unsigned long i = 0; i < n; ++i)
-    c[i] = element(zthalf::quotientOfHalves(plainOperand(a[i]), plainOperand(b[i])));
+    c[i] = asElement(zthalf::quotientOfHalves(plainOperand(a[i]), plainOperand(b[i])));
 }
 
 // The output may be one of the operands, but not overlap one in another way. So few are divided one by one, which costs
 // less than a block; more at the end in a block that zeros fill up.
 template <class A, class B>
-void complexQuotientBlocks(A* a, B* b, complexHalf* c, unsigned long n) {
+void complexQuotientBlocks(A* a, B* b, element::CplxHalf* c, unsigned long n) {
   constexpr unsigned long few = 16;
   if (n <= few) return quotientsOneByOne(a, b, c, n);
-  const auto pass = zthalf::leveled<quotientBlocksPass<A, B>, A*, B*, complexHalf*, unsigned long>::chosen();
+  const auto pass = zthalf::leveled<quotientBlocksPass<A, B>, A*, B*, element::CplxHalf*, unsigned long>::chosen();
   const unsigned long blocks = n / quotientBlock, done = blocks * quotientBlock, rest = n - done;
   if (blocks > 0) pass(a, b, c, blocks);
   if (rest <= few) return quotientsOneByOne(a + done, b + done, c + done, rest);
   A lastA[quotientBlock] = {};
   B lastB[quotientBlock] = {};
-  complexHalf lastC[quotientBlock];
+  element::CplxHalf lastC[quotientBlock];
   std::copy_n(a + done, rest, lastA);
   std::copy_n(b + done, rest, lastB);
   pass(lastA, lastB, lastC, 1);

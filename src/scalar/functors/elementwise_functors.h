@@ -1,5 +1,4 @@
 // Operations that apply part by part to a complex element: a real operation, and a combiner for the two results.
-// Internal: promises nothing to users of the library.
 #pragma once
 
 #include <complex>
@@ -7,6 +6,7 @@
 
 #include "core/bits.h"
 #include "scalar/functors/comparison_functors.h"
+#include "scalar/functors/operands.h"
 #include "zthalf/half_t.h"
 
 namespace half::utils {
@@ -50,23 +50,17 @@ struct ElementwiseUnaryOpFtor {
   }
 };
 
-template <class T>
-struct partsOf {
-  static constexpr bool areTwo = false;
-  using type = T;
-};
-template <class T>
-struct partsOf<std::complex<T>> {
-  static constexpr bool areTwo = true;
-  using type = T;
-};
-
 // The same for two operands. Where one of them is real, the other one's imaginary part has nothing to meet, and Op says
 // what that means.
 template <class Op, class Combiner, unsigned long Threshold, unsigned long Grain>
 struct ElementwiseBinaryOpFtor {
   static constexpr unsigned long grain = Grain;
   using none = scalar::emulated::noImaginaryPart;
+  template <class T>
+  using partsOf = scalar::emulated::partsOf<T>;
+
+  // The orderings look at real parts alone.
+  static constexpr bool isOfRealParts = std::is_same_v<Combiner, getFirstArgFtor>;
 
   // Wide levels are for pairs of real operands and for complex halves among themselves. Complex numbers of other types
   // beside complex halves are rare, and are three quarters of all pairs: at all levels they alone would be as large as
@@ -83,17 +77,26 @@ struct ElementwiseBinaryOpFtor {
 
   template <class A, class B>
   ZTHALF_INLINE auto operator()(std::complex<A> a, B b) const {
-    return Combiner{}(Op{}(a.real(), b), Op{}(a.imag(), none{}));
+    if constexpr (isOfRealParts)
+      return Op{}(a.real(), b);
+    else
+      return Combiner{}(Op{}(a.real(), b), Op{}(a.imag(), none{}));
   }
 
   template <class A, class B>
   ZTHALF_INLINE auto operator()(A a, std::complex<B> b) const {
-    return Combiner{}(Op{}(a, b.real()), Op{}(b.imag(), none{}));
+    if constexpr (isOfRealParts)
+      return Op{}(a, b.real());
+    else
+      return Combiner{}(Op{}(a, b.real()), Op{}(b.imag(), none{}));
   }
 
   template <class A, class B>
   ZTHALF_INLINE auto operator()(std::complex<A> a, std::complex<B> b) const {
-    return Combiner{}(Op{}(a.real(), b.real()), Op{}(a.imag(), b.imag()));
+    if constexpr (isOfRealParts)
+      return Op{}(a.real(), b.real());
+    else
+      return Combiner{}(Op{}(a.real(), b.real()), Op{}(a.imag(), b.imag()));
   }
 };
 

@@ -1,5 +1,4 @@
 // Functors and conditions of min and max.
-// Internal: promises nothing to users of the library.
 #pragma once
 
 #include <complex>
@@ -7,50 +6,32 @@
 
 #include "scalar/complex_extremum.h"
 #include "scalar/extremum.h"
+#include "scalar/functors/operands.h"
 #include "zthalf/half_t.h"
 
 namespace half::scalar::emulated {
 
 namespace templates {
 
-// What an extremum is of: the parts of an operand, a half part widened to the type of the comparison.
-template <class T>
-struct extremumOperand {
-  using part = T;
-  static constexpr bool isComplex = false;
-};
-template <class T>
-struct extremumOperand<std::complex<T>> {
-  using part = T;
-  static constexpr bool isComplex = true;
-};
-
-ZTHALF_INLINE std::uint16_t plainPart(fp16binary_t x) { return x.bits; }
-ZTHALF_INLINE float plainPart(float x) { return x; }
-ZTHALF_INLINE double plainPart(double x) { return x; }
-
 // A real operand beside a complex one has an imaginary part of plus zero.
 template <class Wide, class T>
 ZTHALF_INLINE std::complex<Wide> asComplex(T x) {
-  return {zthalf::exactly<Wide>(plainPart(x)), Wide{0}};
+  return {zthalf::exactly<Wide>(plainOperand(x)), Wide{0}};
 }
 template <class Wide, class T>
 ZTHALF_INLINE std::complex<Wide> asComplex(std::complex<T> z) {
-  return {zthalf::exactly<Wide>(plainPart(z.real())), zthalf::exactly<Wide>(plainPart(z.imag()))};
+  return {zthalf::exactly<Wide>(plainOperand(z.real())), zthalf::exactly<Wide>(plainOperand(z.imag()))};
 }
 
-// A part of the operand that is kept: a half as its pattern is, the bits of a NaN too; the others rounded.
-ZTHALF_INLINE fp16binary_t asHalf(fp16binary_t x) { return x; }
-ZTHALF_INLINE fp16binary_t asHalf(float x) { return {zthalf::narrow(x)}; }
-ZTHALF_INLINE fp16binary_t asHalf(double x) { return {zthalf::narrow(x)}; }
-
+// The operand that is kept, as an element of the output: a half as its pattern is, the bits of a NaN too; the others
+// rounded.
 template <class T>
-ZTHALF_INLINE std::complex<fp16binary_t> asCplxHalf(T x) {
-  return {asHalf(x), fp16binary_t{0}};
+ZTHALF_INLINE element::CplxHalf asCplxHalf(T x) {
+  return {{zthalf::asHalf(plainOperand(x))}, {zthalf::pattern::zero}};
 }
 template <class T>
-ZTHALF_INLINE std::complex<fp16binary_t> asCplxHalf(std::complex<T> z) {
-  return {asHalf(z.real()), asHalf(z.imag())};
+ZTHALF_INLINE element::CplxHalf asCplxHalf(std::complex<T> z) {
+  return {{zthalf::asHalf(plainOperand(z.real()))}, {zthalf::asHalf(plainOperand(z.imag()))}};
 }
 
 // Whether the accumulator is to be replaced by the candidate.
@@ -72,17 +53,17 @@ struct extremumFtor {
 
   // Lengths and angles are calls, and gain nothing from wide registers.
   template <class A, class B>
-  static constexpr bool baseOnlyFor = extremumOperand<A>::isComplex || extremumOperand<B>::isComplex;
+  static constexpr bool baseOnlyFor = partsOf<A>::areTwo || partsOf<B>::areTwo;
 
   template <class A, class B>
   ZTHALF_INLINE auto operator()(A x, B y) const {
-    using partA = typename extremumOperand<A>::part;
-    using partB = typename extremumOperand<B>::part;
+    using partA = typename partsOf<A>::type;
+    using partB = typename partsOf<B>::type;
     if constexpr (baseOnlyFor<A, B>) {
       using wide = zthalf::widestOf<partA, partB>;
       return zthalf::isReplaced<Kind>(asComplex<wide>(x), asComplex<wide>(y)) ? asCplxHalf(y) : asCplxHalf(x);
     } else {
-      return fp16binary_t{zthalf::extremumOf<Kind>(plainPart(x), plainPart(y))};
+      return fp16binary_t{zthalf::extremumOf<Kind>(plainOperand(x), plainOperand(y))};
     }
   }
 };

@@ -1,15 +1,25 @@
 // From the elements of arrays to what the element functions take, and back.
-// Internal: promises nothing to users of the library.
 #pragma once
 
 #include <complex>
 
 #include "scalar/complex/complex_value.h"
+#include "zthalf/detail/element_types.h"
 #include "zthalf/half_t.h"
 
 namespace half::scalar::emulated {
 
-using complexHalf = std::complex<fp16binary_t>;
+// What an element is made of.
+template <class T>
+struct partsOf {
+  static constexpr bool areTwo = false;
+  using type = T;
+};
+template <class T>
+struct partsOf<std::complex<T>> {
+  static constexpr bool areTwo = true;
+  using type = T;
+};
 
 ZTHALF_INLINE std::uint16_t plainOperand(fp16binary_t x) { return x.bits; }
 ZTHALF_INLINE float plainOperand(float x) { return x; }
@@ -33,7 +43,7 @@ template <class A, class B>
 inline constexpr bool isMixedComplexPair = isComplexPair<A, B> && !zthalf::areMadeOfHalves<operandOf<A>, operandOf<B>>;
 
 // The same of element i of an operand that is an array or one value, read in a way that compilers take to vector lanes.
-ZTHALF_INLINE zthalf::complexHalf laneOperand(complexHalf const* z, unsigned long i) {
+ZTHALF_INLINE zthalf::complexHalf laneOperand(element::CplxHalf const* z, unsigned long i) {
   auto const* parts = reinterpret_cast<std::uint16_t const*>(z);
   return {parts[2 * i], parts[2 * i + 1]};
 }
@@ -43,7 +53,9 @@ ZTHALF_INLINE operandOf<T> laneOperand(T value, unsigned long) {
   return plainOperand(value);
 }
 
-ZTHALF_INLINE fp16binary_t element(std::uint16_t bits) { return {bits}; }
-ZTHALF_INLINE std::complex<fp16binary_t> element(zthalf::complexHalf z) { return {{z.re}, {z.im}}; }
+ZTHALF_INLINE fp16binary_t asElement(std::uint16_t bits) { return {bits}; }
+ZTHALF_INLINE float asElement(float x) { return x; }
+ZTHALF_INLINE double asElement(double x) { return x; }
+ZTHALF_INLINE std::complex<fp16binary_t> asElement(zthalf::complexHalf z) { return {{z.re}, {z.im}}; }
 
 }  // namespace half::scalar::emulated

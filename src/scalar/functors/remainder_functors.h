@@ -1,5 +1,4 @@
 // Functors of mod and rem. The elements of a half array come as bare patterns.
-// Internal: promises nothing to users of the library.
 #pragma once
 
 #include <type_traits>

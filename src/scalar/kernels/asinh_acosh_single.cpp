@@ -3,13 +3,12 @@
 #include "scalar/kernels/float_fields.h"
 #include "scalar/kernels/log1p_single.h"
 #include "scalar/kernels/log_single.h"
+#include "scalar/kernels/logarithm_constants.h"
 #include "scalar/kernels/square_root.h"
 
 namespace qsl_scalar {
 
 namespace {
-
-constexpr float ln2 = floatOf(0x3F317218u);  // 0.6931471824645996
 
 // asinh a = ln(a + sqrt(a^2 + 1)).
 //   above 2^15   ln 2a: the one under the root is lost

@@ -1,5 +1,4 @@
 // The angle of a point in single precision.
-// Internal: promises nothing to users of the library.
 #pragma once
 
 #include <cstdint>

@@ -1,5 +1,4 @@
 // The arc tangent in single precision.
-// Internal: promises nothing to users of the library.
 #pragma once
 
 #include <cstdint>

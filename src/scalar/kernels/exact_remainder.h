@@ -1,5 +1,4 @@
 // The exact remainder of two magnitudes, in single or double precision.
-// Internal: promises nothing to users of the library.
 #pragma once
 
 #include <algorithm>

@@ -1,16 +1,11 @@
 #include "scalar/kernels/exp_single.h"
 
 #include "scalar/kernels/float_fields.h"
+#include "scalar/kernels/logarithm_constants.h"
 
 namespace qsl_scalar {
 
 namespace {
-
-constexpr float log2E = floatOf(0x3FB8AA3Bu);  // 1.4426950216293335
-
-// ln 2 with 12 significant bits, so that k times it is exact, and the rest.
-constexpr float ln2Leading = floatOf(0x3F317000u);   // 0.693115234375
-constexpr float ln2Trailing = floatOf(0x3805FDF4u);  // 3.194618329871446e-05
 
 // With c = r - r^2 (c1 + c2 r^2 + c3 r^4), near r - (r coth(r/2) - 2): exp(r) = 1 + r + r c / (2 - c).
 float correction(float r) {

@@ -3,16 +3,11 @@
 #include <cstdint>
 
 #include "scalar/kernels/float_fields.h"
+#include "scalar/kernels/logarithm_constants.h"
 
 namespace qsl_scalar {
 
 namespace {
-
-constexpr float log2E = floatOf(0x3FB8AA3Bu);  // 1.4426950216293335
-
-// ln 2 with 12 significant bits, so that k times it is exact, and the rest.
-constexpr float ln2Leading = floatOf(0x3F317000u);   // 0.693115234375
-constexpr float ln2Trailing = floatOf(0x3805FDF4u);  // 3.194618329871446e-05
 
 // x = k ln 2 + r + lost, |r| up to about 0.3466; lost is what the rounding of r dropped.
 struct reduction {

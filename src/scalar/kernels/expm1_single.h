@@ -1,5 +1,4 @@
 // exp(x) - 1 in single precision.
-// Internal: promises nothing to users of the library.
 #pragma once
 
 namespace qsl_scalar {

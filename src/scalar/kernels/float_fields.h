@@ -1,5 +1,4 @@
 // What the single-precision kernels share: views of a float's fields, and the NaN that they return by decision.
-// Internal: promises nothing to users of the library.
 #pragma once
 
 #include <cstdint>

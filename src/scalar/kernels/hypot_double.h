@@ -1,5 +1,4 @@
 // The length of a vector of two parts in double precision.
-// Internal: promises nothing to users of the library.
 #pragma once
 
 namespace qsl_scalar {

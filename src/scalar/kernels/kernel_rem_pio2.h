@@ -1,5 +1,4 @@
 // Reduction of a large angle by the digits of 2/pi.
-// Internal: promises nothing to users of the library.
 #pragma once
 
 #include <array>

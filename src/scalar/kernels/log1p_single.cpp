@@ -73,14 +73,13 @@ float log1pSingle(float x) {
   constexpr std::uint32_t belowRootHalf = 0xBE95F618u;  // -0.29289317
 
   if (signedBitsOf(x) > aboveRootTwo) {
-    const std::int32_t field = exponentFieldOf(x);
-    if (field > 0xFE) return x;
-    if (field > 0x96) return logarithmOfSum(x, 0.0f);
+    if (signedBitsOf(x) >= std::int32_t{exponentBits}) return x;
+    if (x >= 0x1p24f) return logarithmOfSum(x, 0.0f);
     return logarithmOfRoundedSum(x);
   }
-  const std::uint32_t magnitude = magnitudeBitsOf(x);
-  if (magnitude >> 23 >= 0x7F) return x == -1.0f ? negativeInfinity : domainNaN;
-  if (magnitude >> 24 <= 0x30) return magnitude >> 23 < 0x49 ? x : x - (x * x) * 0.5f;
+  const float magnitude = magnitudeOf(x);
+  if (!(magnitude < 1.0f)) return x == -1.0f ? negativeInfinity : domainNaN;
+  if (magnitude < 0x1p-29f) return magnitude < 0x1p-54f ? x : x - (x * x) * 0.5f;
   if (bitsOf(x) <= belowRootHalf) return logarithm({0.0f, x, 0.0f, (x * 0.5f) * x, false});
   return logarithmOfRoundedSum(x);
 }

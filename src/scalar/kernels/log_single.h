@@ -1,5 +1,4 @@
 // The natural logarithm in single precision.
-// Internal: promises nothing to users of the library.
 #pragma once
 
 #include <cstdint>
@@ -26,7 +25,6 @@ ZTHALF_INLINE float logSingle(float x) {
   using zthalf::maskOf;
   using zthalf::select;
   constexpr std::uint32_t oneMinusRootHalf = 0x004AFB0Du;  // carries out of the fraction from about 1.414 on
-  constexpr float minusLn2Lower = floatOf(0xB5BFBE8Eu);    // -1.428606765330187e-06
   constexpr float minusThird = floatOf(0xBEAAAAABu);       // -0.3333333432674408
 
   const bool isSubnormal = magnitudeBitsOf(x) < hiddenBit;
@@ -46,7 +44,7 @@ ZTHALF_INLINE float logSingle(float x) {
   const float general = s * (f - series);
   const std::uint32_t isNearOne = maskOf<std::uint32_t>(((word + 15) & 0x007FFFF0u) == 0);
   const float middle = floatOf(select(isNearOne, bitsOf(nearOne), bitsOf(general)));
-  const float number = k * ln2Upper - ((middle + k * minusLn2Lower) - f);
+  const float number = k * ln2Upper - ((middle + k * -ln2Lower) - f);
 
   const auto isInfiniteOrNaN = maskOf<std::uint32_t>(signedBitsOf(x) > 0x7F7FFFFF);
   const auto isNegative = maskOf<std::uint32_t>(signedBitsOf(x) < 0);

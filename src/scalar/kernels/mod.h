@@ -1,5 +1,4 @@
 // The remainder with the sign of the divisor, in single and double precision.
-// Internal: promises nothing to users of the library.
 #pragma once
 
 namespace qsl_scalar {

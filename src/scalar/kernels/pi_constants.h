@@ -1,5 +1,4 @@
 // Multiples of pi in two parts.
-// Internal: promises nothing to users of the library.
 #pragma once
 
 #include "core/bits.h"

@@ -1,5 +1,4 @@
 // x to the power y in double precision.
-// Internal: promises nothing to users of the library.
 #pragma once
 
 namespace qsl_scalar {

@@ -1,5 +1,4 @@
 // powSingle without branches, for loops that run in vector lanes.
-// Internal: promises nothing to users of the library.
 #pragma once
 
 #include <cmath>

@@ -1,5 +1,4 @@
 // What powSingle is made of: the logarithm and the exponential to base 2 with more than a float's precision.
-// Internal: promises nothing to users of the library.
 //
 // Every function here is free of branches, so that the scalar powSingle and the one for vector lanes share it.
 #pragma once
@@ -127,7 +126,6 @@ struct scaledNumber {
 // exp(z) = 1 + z + ... comes from the even series t of z as in exp(z) = 1 + (z - (z t / (t - 2) - correction)).
 template <class Parts = bitwiseParts>
 ZTHALF_INLINE scaledNumber scaledExponential(split p, float sum) {
-  constexpr float ln2 = floatOf(0x3F317218u);           // 0.6931471824645996
   constexpr float ln2Remainder = floatOf(0x35BFBE8Cu);  // 1.4286065379565116e-06
   constexpr float p1 = floatOf(0x3E2AAAABu);            // 0.1666666716337204, near 1/6
   constexpr float p2 = floatOf(0xBB360B70u);            // -0.0027777813374996185, near -1/360

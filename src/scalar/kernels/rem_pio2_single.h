@@ -1,5 +1,4 @@
 // Reduction of an angle by multiples of pi/2 in single precision.
-// Internal: promises nothing to users of the library.
 #pragma once
 
 #include <cstdint>

@@ -1,5 +1,4 @@
 // Scaling by a power of two in single precision.
-// Internal: promises nothing to users of the library.
 #pragma once
 
 #include <cstdint>

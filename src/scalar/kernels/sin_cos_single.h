@@ -1,5 +1,4 @@
 // Sine and cosine in single precision.
-// Internal: promises nothing to users of the library.
 #pragma once
 
 namespace qsl_scalar {

@@ -1,5 +1,4 @@
 // Sine and cosine of a reduced angle in single precision.
-// Internal: promises nothing to users of the library.
 #pragma once
 
 #include <cstdint>

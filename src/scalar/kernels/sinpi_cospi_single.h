@@ -1,5 +1,4 @@
 // sin(pi x) and cos(pi x) in single precision.
-// Internal: promises nothing to users of the library.
 #pragma once
 
 namespace qsl_scalar {

@@ -1,5 +1,4 @@
 // The square root, with the NaN of the defining float unit.
-// Internal: promises nothing to users of the library.
 #pragma once
 
 #include <cmath>

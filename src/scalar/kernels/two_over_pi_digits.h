@@ -1,5 +1,4 @@
 // The number 2/pi to the base 256.
-// Internal: promises nothing to users of the library.
 #pragma once
 
 #include <array>

@@ -7,7 +7,7 @@
 #include <cstdint>
 #include <type_traits>
 
-#include "tests/support/function_hash.h"
+#include "tests/support/sweep.h"
 
 namespace zthalf::testing {
 

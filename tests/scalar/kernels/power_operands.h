@@ -5,7 +5,7 @@
 #include <cmath>
 #include <cstdint>
 
-#include "tests/support/function_hash.h"
+#include "tests/support/sweep.h"
 
 namespace zthalf::testing {
 

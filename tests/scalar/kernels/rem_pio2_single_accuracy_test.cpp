@@ -8,7 +8,7 @@
 #include "scalar/kernels/rem_pio2_single.h"
 #include "scalar/kernels/two_over_pi_digits.h"
 #include "tests/scalar/kernels/trigonometric_steps.h"
-#include "tests/support/function_hash.h"
+#include "tests/support/sweep.h"
 
 namespace zthalf::testing {
 namespace {

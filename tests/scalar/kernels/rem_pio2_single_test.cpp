@@ -4,7 +4,6 @@
 
 #include "tests/scalar/kernels/float_cases.h"
 #include "tests/scalar/kernels/trigonometric_steps.h"
-#include "tests/support/function_hash.h"
 #include "tests/support/sweep.h"
 
 namespace zthalf::testing {

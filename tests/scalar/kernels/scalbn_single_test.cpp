@@ -7,7 +7,7 @@
 
 #include "tests/scalar/kernels/steps_single.h"
 #include "tests/support/expect_bits.h"
-#include "tests/support/function_hash.h"
+#include "tests/support/sweep.h"
 
 namespace zthalf::testing {
 namespace {

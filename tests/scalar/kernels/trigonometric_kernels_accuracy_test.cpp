@@ -15,8 +15,8 @@
 #include "scalar/kernels/sinpi_cospi_single.h"
 #include "scalar/kernels/tan_single.h"
 #include "scalar/kernels/tanh_single.h"
-#include "tests/support/function_hash.h"
 #include "tests/support/multiple_precision.h"
+#include "tests/support/sweep.h"
 
 namespace zthalf::testing {
 namespace {
