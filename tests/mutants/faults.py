@@ -224,6 +224,8 @@ FAULTS = [
           'outputPart<Out>::of(static_cast<float>(q))', 'outputPart<Out>::of(q)', '^reduce/'),
     Fault('a NaN left out of a product in double counts as zero', 'src/reduce/steps/steps.h',
           'neutral = zthalf::pattern::one', 'neutral = zthalf::pattern::zero', '^reduce/'),
-    Fault('a column keeps the NaN of its total first', 'src/reduce/folds/lane_fold.h',
-          'Step::settled(partial, total)\n', 'Step::settled(total, partial)\n', '^reduce/'),
+    Fault('a column keeps the NaN of its total first', 'src/reduce/steps/steps.h',
+          '? settled(partial, total) :', '? settled(total, partial) :', '^reduce/'),
+    Fault('a column of complex halves exchanges the factors of its products', 'src/reduce/steps/complex_half_product.h',
+          'zthalf::factorsExchanged<decltype(unit)>{}, x, y', 'unit, y, x', '^reduce/'),
 ]

@@ -71,6 +71,19 @@ pairOf<Wide> timesReal(pairOf<Wide> z, definedNumber<Wide> x) {
   return {z.re * x, z.im * x};
 }
 
+// A column's total times the product of a run, with the run's part before the total's in each multiplication.
+inline pairOf<float> totalTimesRun(pairOf<float> total, pairOf<float> run) {
+  const auto [a, b] = total;
+  const auto [c, d] = run;
+  if (b.isZero()) return timesReal(run, a);
+  if (d.isZero()) return a.isZero() ? pairOf<float>{0.0f, c * b} : pairOf<float>{c * a, c * b};
+  const auto minusDB = -(d * b);
+  if (a.isZero() && c.isZero()) return {minusDB, 0.0f};
+  if (a.isZero()) return {minusDB, c * b};
+  if (c.isZero()) return {minusDB, d * a};
+  return {nudged(c * a, -d * b), nudged(d * a, c * b)};
+}
+
 enum class way { nudgedSingle, nudgedDouble, fusedDouble };
 
 template <way how, class Wide>
