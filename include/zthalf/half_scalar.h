@@ -39,7 +39,7 @@ ZTHALF_API half_t nextafter(half_t x, half_t y);
 /// few results next to a tie it is the correctly rounded one. exp alone is coarser: within 0.873 units in the last
 /// place, and about one result in seven is not the nearest half.
 ///
-/// NaN results are 0x7E00 with the sign told for each group.
+/// NaN results are 0x7E00 with the sign stated for each group.
 
 /// exp(x), exp(x) - 1. A NaN keeps its sign; expm1 of a zero is that zero.
 ZTHALF_API half_t exp(half_t x);

@@ -1,4 +1,5 @@
-// The steps of sums and products once more: one operation after the other, each NaN decided before it is met.
+// The steps of sums and products once more: one operation after the other, each NaN decided before it is met. Sums and
+// products of real halves are the operators, which scalar/half_arithmetic tests.
 #pragma once
 
 #include <bit>

@@ -1,6 +1,6 @@
 // What each unary operation does to one element: the expected value of the tests that are read from the entry list.
 //
-// rule::<facade name> of an element. A name that is not told here is looked up in half_scalar, so a row whose operation
+// rule::<facade name> of an element. A name that is not here is looked up in half_scalar, so a row whose operation
 // has a scalar function of the same name needs nothing; any other row does not compile before it has its rule here.
 #pragma once
 

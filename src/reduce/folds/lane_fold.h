@@ -155,7 +155,7 @@ class laneRows {
   using wide = typename Step::wide;
 
   // Rows lie far apart, in pages of their own where the source is wide, so that nothing else brings them near in time.
-  // An address that is not there does no harm.
+  // Prefetching an unmapped address is harmless.
   void fetchAhead(source const* elements, unsigned long length) {
     const auto here = reinterpret_cast<std::uintptr_t>(elements);
     const auto ahead = here + rowsAhead * (here - before_);

@@ -1,5 +1,6 @@
 // What the arithmetic of every pair of operands gives, case after case: the reference of the tests of complex operators
-// and of the arithmetic families. Written on plain operators of definedNumber, one case a line.
+// and of the arithmetic families. Written on plain operators of definedNumber, one case a line. Rounding to half and
+// widening are the library's, which core/float_conversion tests.
 #pragma once
 
 #include <complex>
