@@ -27,9 +27,10 @@ target_include_directories(zthalf_test_support PUBLIC ${PROJECT_SOURCE_DIR})
 target_compile_definitions(zthalf_test_support PUBLIC ZTHALF_GOLDEN_DIRECTORY="${PROJECT_SOURCE_DIR}/tests/golden")
 target_compile_options(zthalf_test_support PUBLIC -Wall -Wextra $<$<BOOL:${ZTHALF_WERROR}>:-Werror>)
 
-# Tests of accuracy need MPFR and are left out of cross builds: accuracy follows from the bits, which are compared there.
+# Tests of accuracy need MPFR and MPC and are left out of cross builds: accuracy follows from the bits, which are compared there.
 if(NOT CMAKE_CROSSCOMPILING)
   find_library(ZTHALF_MPFR mpfr REQUIRED)
+  find_library(ZTHALF_MPC mpc REQUIRED)
 endif()
 
 if(CMAKE_SYSTEM_PROCESSOR MATCHES "x86_64|AMD64")
