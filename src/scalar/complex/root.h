@@ -9,4 +9,6 @@ namespace zthalf {
 // number has the real root; otherwise a NaN gives 0x7E00 twice, and an infinite imaginary part is kept beside infinity.
 complexHalf sqrtOf(complexHalf z);
 
+ZTHALF_INLINE complexHalf complexSqrtOf(std::uint16_t x) { return sqrtOf(complexHalf{x, 0}); }
+
 }  // namespace zthalf
