@@ -1,9 +1,9 @@
 # zthalf_add_test(NAME name LABELS labels... [LEVELS] [LEAN] [LIBRARIES ...] [DEFINITIONS ...] [DEPENDS targets...]
 #                 [SOURCE file])
 #
-# The one way a test is made: <name>_test.cpp, or another file, with the library's internals and GoogleTest, as a program.
-# With LEVELS it is registered once for each instruction level, name@base, name@v3, name@v4, and a level that the
-# processor lacks counts as skipped.
+# The one way a test is made: <name>_test.cpp, or another file, with the library's internals and GoogleTest, as a
+# program. With LEVELS it is registered once for each instruction level, name@base, name@v3, name@v4, and a level that
+# the processor lacks counts as skipped.
 # LEAN is for tests that are long to compile and whose loops are those of the library: they are optimised little.
 # Tests whose GoogleTest names begin with Long are left to a second registration with the label long.
 #

@@ -40,6 +40,7 @@ TEST(SmallPrograms, PlusTwoArraysMakesAMatrix) {
 }
 
 TEST(SmallPrograms, HostArraysDoesWhatAHostDoes) {
+  if (!EXAMPLES_HOST) GTEST_SKIP() << "the program is for the embedded host, and another one is linked";
   const auto result = run("host_arrays");
   EXPECT_EQ(result.status, 0);
   EXPECT_EQ(result.err, "");
