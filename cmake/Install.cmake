@@ -10,8 +10,12 @@ if(TARGET zthalf_host)
 endif()
 install(TARGETS ${targets} EXPORT zthalfTargets
   LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
-install(DIRECTORY ${PROJECT_SOURCE_DIR}/include/zthalf DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
-if(ZTHALF_HOST_INCLUDE_DIR)  # in place of our own header of that name
+set(except "")
+if(ZTHALF_HOST_INCLUDE_DIR)  # its header in place of our own: one over the other is left out where both are as old
+  set(except PATTERN host/vq_fields.h EXCLUDE)
+endif()
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/include/zthalf DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} ${except})
+if(ZTHALF_HOST_INCLUDE_DIR)
   install(FILES ${ZTHALF_HOST_INCLUDE_DIR}/zthalf/host/vq_fields.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/zthalf/host)
 endif()
 install(FILES ${PROJECT_SOURCE_DIR}/LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR})
