@@ -95,7 +95,7 @@ num<Wide> truncation(num<Wide> x) {
 template <class Wide>
 void recover(num<Wide> a, num<Wide> b, num<Wide> c, num<Wide> d, num<Wide>& re, num<Wide>& im) {
   using n = num<Wide>;
-  const n zero = Wide(0), one = Wide(1), most = real<Wide>::most;
+  const n zero = Wide(0), most = real<Wide>::most;
   if (b.isZero() && c.isZero()) {
     re = zero;
     im = a * d;
@@ -133,7 +133,6 @@ void recover(num<Wide> a, num<Wide> b, num<Wide> c, num<Wide> d, num<Wide>& re, 
       im = flag ? term(b, c, b1, c1) + term(a, d, a1, d1) : zero;
     }
   }
-  (void)one;
 }
 
 template <class Wide>
