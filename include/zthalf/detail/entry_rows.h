@@ -19,50 +19,50 @@
   ZTHALF_ROW(entry, ZTHALF_SIGNATURE(two_out, half::element::In, half::element::Out), function)
 #define ZTHALF_QUERY_ROW(entry, facade, In, function) \
   ZTHALF_ROW(entry, ZTHALF_SIGNATURE(query, half::storage::In), function)
-#define ZTHALF_BINARY_ROW(op, Left, Right, Out)                                                                        \
+#define ZTHALF_BINARY_ROW(op, Left, Right, Out)                                                                      \
   ZTHALF_ROW(op##Left##Right, ZTHALF_SIGNATURE(binary, half::element::Left, half::element::Right, half::element::Out), \
              op<half::element::Left, half::element::Right, half::element::Out>)
-#define ZTHALF_REMAINDER_ROW(op, Left, Right, Out)                                                                     \
+#define ZTHALF_REMAINDER_ROW(op, Left, Right, Out)                                                                   \
   ZTHALF_ROW(op##Left##Right, ZTHALF_SIGNATURE(binary, half::storage::Left, half::storage::Right, half::storage::Out), \
              op<half::storage::Left, half::storage::Right>)
-#define ZTHALF_REAL_TO_COMPLEX_POWER_ROW(op, Left, Right, Out)                                                         \
+#define ZTHALF_REAL_TO_COMPLEX_POWER_ROW(op, Left, Right, Out)                                                       \
   ZTHALF_ROW(op##Left##Right, ZTHALF_SIGNATURE(binary, half::element::Left, half::element::Right, half::element::Out), \
              power<half::element::Left, half::element::Right>)
-#define ZTHALF_POWER_EARLY_EXIT_ROW(op, Left, Right, Out)                                                        \
-  ZTHALF_ROW(op##Left##Right,                                                                                    \
+#define ZTHALF_POWER_EARLY_EXIT_ROW(op, Left, Right, Out)                                                      \
+  ZTHALF_ROW(op##Left##Right,                                                                                  \
              ZTHALF_SIGNATURE(binary_early_exit, half::element::Left, half::element::Right, half::element::Out), \
              op<half::element::Left, half::element::Right, half::element::Out>)
-#define ZTHALF_COMPARISON_ROW(entry, op, Left, Right)                                          \
+#define ZTHALF_COMPARISON_ROW(entry, op, Left, Right)                                        \
   ZTHALF_ROW(entry, ZTHALF_SIGNATURE(binary, half::element::Left, half::element::Right, bool), \
              op<half::element::Left, half::element::Right>)
-#define ZTHALF_TERNARY_ROW(op, A, B, C, Out)                                                                      \
-  ZTHALF_ROW(op##A##B##C,                                                                                         \
+#define ZTHALF_TERNARY_ROW(op, A, B, C, Out)                                                                    \
+  ZTHALF_ROW(op##A##B##C,                                                                                       \
              ZTHALF_SIGNATURE(ternary, half::element::A, half::element::B, half::element::C, half::element::Out), \
              op<half::element::A, half::element::B, half::element::C, half::element::Out>)
-#define ZTHALF_SIMPLE_REDUCTION_ROW(entry, facade, function, In, Out, Accumulator)  \
-  ZTHALF_ROW(entry, ZTHALF_SIGNATURE(unary, half::element::In, half::element::Out), \
+#define ZTHALF_SIMPLE_REDUCTION_ROW(entry, facade, function, In, Out, Accumulator) \
+  ZTHALF_ROW(entry, ZTHALF_SIGNATURE(unary, half::element::In, half::element::Out),  \
              function<half::element::In, half::element::Out, half::element::Accumulator>)
-#define ZTHALF_REDUCTION_ROW(entry, facade, function, In, Out, Accumulator)             \
+#define ZTHALF_REDUCTION_ROW(entry, facade, function, In, Out, Accumulator)           \
   ZTHALF_ROW(entry, ZTHALF_SIGNATURE(reduction, half::element::In, half::element::Out), \
              function<half::element::In, half::element::Out, half::element::Accumulator>)
-#define ZTHALF_EXTREMUM_ROW(entry, shape, Element, Accumulator, function)                    \
+#define ZTHALF_EXTREMUM_ROW(entry, shape, Element, Accumulator, function)                  \
   ZTHALF_ROW(entry, ZTHALF_SIGNATURE(shape, half::element::Element, half::element::Element), \
              function<half::element::Element, half::element::Element, half::element::Accumulator>)
 
-#define ZTHALF_TABLE                                                     \
-  ZTHALF_UNARY_ENTRIES(ZTHALF_UNARY_ROW)                                 \
-  ZTHALF_EARLY_EXIT_ENTRIES(ZTHALF_EARLY_EXIT_ROW)                       \
-  ZTHALF_TWO_OUT_ENTRIES(ZTHALF_TWO_OUT_ROW)                             \
-  ZTHALF_QUERY_ENTRIES(ZTHALF_QUERY_ROW)                                 \
-  ZTHALF_BINARY_ENTRIES(ZTHALF_BINARY_ROW)                               \
-  ZTHALF_REMAINDER_ENTRIES(ZTHALF_REMAINDER_ROW)                         \
-  ZTHALF_COMPLEX_POWER_ENTRIES(ZTHALF_BINARY_ROW)                        \
+#define ZTHALF_TABLE                                                   \
+  ZTHALF_UNARY_ENTRIES(ZTHALF_UNARY_ROW)                               \
+  ZTHALF_EARLY_EXIT_ENTRIES(ZTHALF_EARLY_EXIT_ROW)                     \
+  ZTHALF_TWO_OUT_ENTRIES(ZTHALF_TWO_OUT_ROW)                           \
+  ZTHALF_QUERY_ENTRIES(ZTHALF_QUERY_ROW)                               \
+  ZTHALF_BINARY_ENTRIES(ZTHALF_BINARY_ROW)                             \
+  ZTHALF_REMAINDER_ENTRIES(ZTHALF_REMAINDER_ROW)                       \
+  ZTHALF_COMPLEX_POWER_ENTRIES(ZTHALF_BINARY_ROW)                      \
   ZTHALF_REAL_TO_COMPLEX_POWER_ENTRIES(ZTHALF_REAL_TO_COMPLEX_POWER_ROW) \
-  ZTHALF_POWER_EARLY_EXIT_ENTRIES(ZTHALF_POWER_EARLY_EXIT_ROW)           \
-  ZTHALF_SIMPLE_REDUCTION_ENTRIES(ZTHALF_SIMPLE_REDUCTION_ROW)           \
-  ZTHALF_SIMPLE_OMITNAN_REDUCTION_ENTRIES(ZTHALF_SIMPLE_REDUCTION_ROW)   \
-  ZTHALF_REDUCTION_ENTRIES(ZTHALF_REDUCTION_ROW)                         \
-  ZTHALF_COMPARISON_ENTRIES(ZTHALF_COMPARISON_ROW)                       \
-  ZTHALF_FMA_ENTRIES(ZTHALF_TERNARY_ROW)                                 \
-  ZTHALF_CHOSEN_BINARY_ENTRIES(ZTHALF_BINARY_ROW)                        \
+  ZTHALF_POWER_EARLY_EXIT_ENTRIES(ZTHALF_POWER_EARLY_EXIT_ROW)         \
+  ZTHALF_SIMPLE_REDUCTION_ENTRIES(ZTHALF_SIMPLE_REDUCTION_ROW)         \
+  ZTHALF_SIMPLE_OMITNAN_REDUCTION_ENTRIES(ZTHALF_SIMPLE_REDUCTION_ROW) \
+  ZTHALF_REDUCTION_ENTRIES(ZTHALF_REDUCTION_ROW)                       \
+  ZTHALF_COMPARISON_ENTRIES(ZTHALF_COMPARISON_ROW)                     \
+  ZTHALF_FMA_ENTRIES(ZTHALF_TERNARY_ROW)                               \
+  ZTHALF_CHOSEN_BINARY_ENTRIES(ZTHALF_BINARY_ROW)                      \
   ZTHALF_EXTREMUM_REDUCTION_ENTRIES(ZTHALF_EXTREMUM_ROW)
