@@ -143,11 +143,24 @@ ZTHALF_DECLARE_EXPANDING(ldivide)
 ZTHALF_DECLARE_EXPANDING(hypot)
 ZTHALF_DECLARE_EXPANDING(atan2)
 ZTHALF_DECLARE_EXPANDING(realToComplex)
+ZTHALF_DECLARE_EXPANDING(power)
+ZTHALF_DECLARE_EXPANDING(cplxPower)
 ZTHALF_DECLARE_EXPANDING(min)
 ZTHALF_DECLARE_EXPANDING(max)
 ZTHALF_DECLARE_EXPANDING(minOmitNaN)
 ZTHALF_DECLARE_EXPANDING(maxOmitNaN)
 #undef ZTHALF_DECLARE_EXPANDING
+
+/// Real powers with a complex result, and those that stop.
+template <class Left, class Right>
+ZTHALF_API void power(Left* a, Right* b, std::complex<fp16binary_t>* c, unsigned long na, unsigned long ndimsA,
+                      unsigned long const* dimsA, unsigned long nb, unsigned long ndimsB, unsigned long const* dimsB,
+                      unsigned long nc, unsigned long ndimsC, unsigned long const* dimsC);
+template <class Left, class Right, class Out>
+ZTHALF_API bool powerWithEarlyExit(Left* a, Right* b, Out* c, unsigned long na, unsigned long ndimsA,
+                                   unsigned long const* dimsA, unsigned long nb, unsigned long ndimsB,
+                                   unsigned long const* dimsB, unsigned long nc, unsigned long ndimsC,
+                                   unsigned long const* dimsC);
 
 /// On bare patterns: an unsigned short operand is a half, and so is every result.
 template <class Left, class Right>

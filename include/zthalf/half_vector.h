@@ -34,6 +34,11 @@ namespace half_vector {
   ZTHALF_API void op(element::Left* a, element::Right* b, element::Out* c, unsigned long na, unsigned long ndimsA,   \
                      unsigned long const* dimsA, unsigned long nb, unsigned long ndimsB, unsigned long const* dimsB, \
                      unsigned long nc, unsigned long ndimsC, unsigned long const* dimsC);
+#define ZTHALF_DECLARE_POWER(entry, Left, Right, Out) ZTHALF_DECLARE_BINARY(power, Left, Right, Out)
+#define ZTHALF_DECLARE_BINARY_EARLY_EXIT(op, Left, Right, Out)                                                       \
+  ZTHALF_API bool op(element::Left* a, element::Right* b, element::Out* c, unsigned long na, unsigned long ndimsA,   \
+                     unsigned long const* dimsA, unsigned long nb, unsigned long ndimsB, unsigned long const* dimsB, \
+                     unsigned long nc, unsigned long ndimsC, unsigned long const* dimsC);
 #define ZTHALF_DECLARE_COMPARISON(entry, op, Left, Right)                                                            \
   ZTHALF_API void op(element::Left* a, element::Right* b, bool* c, unsigned long na, unsigned long ndimsA,           \
                      unsigned long const* dimsA, unsigned long nb, unsigned long ndimsB, unsigned long const* dimsB, \
@@ -164,6 +169,27 @@ ZTHALF_QUERY_ENTRIES(ZTHALF_DECLARE_QUERY)
 ZTHALF_BINARY_ENTRIES(ZTHALF_DECLARE_BINARY)
 ZTHALF_REMAINDER_ENTRIES(ZTHALF_DECLARE_BINARY)
 
+/// power(a, b, c), a to the power b, shapes as for plus. The type of the output says which power is meant.
+///
+/// Real operands and a real output (declared above): the real power, a NaN where there is none, as half_scalar::power
+/// states. Real operands and a complex output: the complex power where a is negative and b is not an integer, an
+/// infinite b counting as one and a NaN not; elsewhere the real power, with an imaginary part of +0. A complex operand:
+/// the complex power, a real operand having an imaginary part of +0, as half_scalar::power states for complex halves.
+///
+/// The kernels run in float, in double if an operand is made of doubles, and each part is rounded to half once.
+ZTHALF_COMPLEX_POWER_ENTRIES(ZTHALF_DECLARE_POWER)
+ZTHALF_REAL_TO_COMPLEX_POWER_ENTRIES(ZTHALF_DECLARE_POWER)
+
+/// powerWithEarlyExit(a, b, c): the real power for a caller that wants to know when a result would not be real. Of the
+/// shapes only nb and nc are looked at, as ints: c[i] = a[i / nb] to the power b[i % nb], for i from 0 to nc - 1. So
+/// one element on either side meets the whole other array, and a column a row; of two arrays of equal size above 1 it
+/// is a[0] that meets every element of b.
+///
+/// Stops at the first pair with a negative a and a b that is not an integer and returns false: c[i] and all that follow
+/// are left as they were, and the results before are finished. An infinite b is an integer, a NaN is not; a NaN a never
+/// stops. True when all were done, and for an nc of 0.
+ZTHALF_POWER_EARLY_EXIT_ENTRIES(ZTHALF_DECLARE_BINARY_EARLY_EXIT)
+
 /// eq, ne, gt, ge, lt, le: comparisons of two arrays with implicit expansion, shapes as for plus. The left operand is
 /// an array of half_t or std::complex<half_t>; the right one is of halves, floats, doubles, integers of 8 to 64 bits,
 /// or complex numbers made of any of these. bool stands on either side of a real or complex half. In a bool operand
@@ -217,6 +243,8 @@ ZTHALF_PRODUCT_ENTRIES(ZTHALF_DECLARE_PRODUCT)
 #undef ZTHALF_DECLARE_TWO_OUT
 #undef ZTHALF_DECLARE_QUERY
 #undef ZTHALF_DECLARE_BINARY
+#undef ZTHALF_DECLARE_POWER
+#undef ZTHALF_DECLARE_BINARY_EARLY_EXIT
 #undef ZTHALF_DECLARE_COMPARISON
 #undef ZTHALF_DECLARE_TERNARY
 #undef ZTHALF_DECLARE_PRODUCT

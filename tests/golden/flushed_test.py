@@ -16,7 +16,7 @@ NUMERICS = os.path.join(HERE, '..', '..', 'docs', 'numerics.md')
 HEADING = '## Programs that flush subnormal numbers'
 BESIDE_HALVES = re.compile(r'Single|Double|\bfloat\b|\bdouble\b')
 # Repeated squaring of complex halves goes down to subnormal floats, and the reciprocal of one is seen.
-SQUARES_HALVES = re.compile(r'cplxPowerCplxHalfCplxHalf|cplxPowerCplxHalfHalf|power\(std::complex<half_t>')
+SQUARES_HALVES = re.compile(r'cplxPower(Cplx)?Half(Cplx)?Half|powerRealToComplexHalfHalf|power\(std::complex<half_t>')
 MET_SUBNORMALS = '*'
 
 

@@ -65,6 +65,23 @@ FAULTS = [
     Fault('nextafter leaves infinity in the wrong direction', 'src/scalar/spacing.h',
           'up == positive ? x + 1 : x - 1', 'up ? x + 1 : x - 1', '^scalar/spacing'),
 
+    # Complex kernels and functions
+    Fault('the logarithm of a huge number is that of its half', 'src/scalar/kernels/cplx_log.cpp',
+          '+ kernels::ln2', '+ 0', '^scalar/kernels/cplx_log$'),
+    Fault('an infinity on the imaginary axis is repaired to a NaN', 'src/scalar/kernels/cplx_multiply.cpp',
+          '((d == 0 || c == 0) && m1 > most)', '(d == 0 && m1 > most)', '^scalar/kernels/cplx_multiply$'),
+    Fault('expm1 is corrected beyond half a turn', 'src/scalar/kernels/cplx_expm1_single.cpp',
+          ' || magnitudeOf(y) > halfPiUpper', '', '^scalar/kernels/cplx_expm1'),
+    Fault('-infinity to a negative power is complex', 'src/scalar/kernels/cplx_pow.cpp',
+          '(w.re < 0 && !isFiniteNumber(z.re))', 'false', '^scalar/kernels/cplx_pow$'),
+    Fault('an exact zero of sinpi meets an infinity', 'src/scalar/complex/trigonometric.cpp',
+          'trigonometric == 0.0f ? trigonometric : ', '', '^scalar/complex/elementary_functions$'),
+    Fault('log1p is exact near zero only', 'src/scalar/complex/logarithm.cpp',
+          'if (qsl_scalar::magnitudeOf(x) < 0.5f) {', 'if (qsl_scalar::magnitudeOf(x) < 0.25f) {',
+          '^scalar/complex/elementary_functions$'),
+    Fault('a NaN power does not stop', 'src/scalar/complex/power.h',
+          '!(std::trunc(y) == y)', '(std::trunc(y) < y || std::trunc(y) > y)', '^elementwise/power'),
+
     # Trigonometric and hyperbolic kernels
     Fault('the product with 2/pi has one term less', 'src/scalar/kernels/kernel_rem_pio2.cpp',
           'constexpr int lastTerm = 9;', 'constexpr int lastTerm = 8;', '^scalar/kernels/rem_pio2_single$'),

@@ -91,10 +91,30 @@ inline unsigned short* bare(half_t* p) { return reinterpret_cast<unsigned short*
                                                                ZTHALF_ROW_ENTRY(op, Left, Right, Out), \
                                                                ZTHALF_ROW_OPERATION(op, Left, Right, Out)});
 
+// Powers with a complex result: the facade has the real powers' name, and with real operands the template too.
+#define ZTHALF_ROW_REAL_TO_COMPLEX_POWER(op, Left, Right, Out)                                                         \
+  [](element::Left* a, element::Right* b, element::Out* c, unsigned long na, unsigned long ndimsA,                     \
+     unsigned long const* dimsA, unsigned long nb, unsigned long ndimsB, unsigned long const* dimsB, unsigned long nc, \
+     unsigned long ndimsC, unsigned long const* dimsC) {                                                               \
+    namespace element = half::element;                                                                                 \
+    half::power<element::Left, element::Right>(stored(a), stored(b), stored(c), na, ndimsA, dimsA, nb, ndimsB, dimsB,  \
+                                               nc, ndimsC, dimsC);                                                     \
+  }
+#define ZTHALF_VISIT_COMPLEX_POWER_ROW(op, Left, Right, Out)                                           \
+  visit(binaryRow<element::Left, element::Right, element::Out>{#op #Left #Right, &half_vector::power,  \
+                                                               ZTHALF_ROW_ENTRY(op, Left, Right, Out), \
+                                                               ZTHALF_ROW_OPERATION(op, Left, Right, Out)});
+#define ZTHALF_VISIT_REAL_TO_COMPLEX_POWER_ROW(op, Left, Right, Out)                 \
+  visit(binaryRow<element::Left, element::Right, element::Out>{                      \
+      #op #Left #Right, &half_vector::power, ZTHALF_ROW_ENTRY(op, Left, Right, Out), \
+      ZTHALF_ROW_REAL_TO_COMPLEX_POWER(op, Left, Right, Out)});
+
 // visit(row) for every binary row.
 template <class Visit>
 void forEachBinaryRow(Visit visit) {
   ZTHALF_BINARY_ENTRIES(ZTHALF_VISIT_ROW)
+  ZTHALF_COMPLEX_POWER_ENTRIES(ZTHALF_VISIT_COMPLEX_POWER_ROW)
+  ZTHALF_REAL_TO_COMPLEX_POWER_ENTRIES(ZTHALF_VISIT_REAL_TO_COMPLEX_POWER_ROW)
   ZTHALF_REMAINDER_ENTRIES(ZTHALF_VISIT_REMAINDER_ROW)
 }
 
@@ -140,6 +160,9 @@ void forEachChosenBinaryRow(Visit visit) {
 }
 
 #undef ZTHALF_VISIT_CHOSEN_ROW
+#undef ZTHALF_VISIT_COMPLEX_POWER_ROW
+#undef ZTHALF_VISIT_REAL_TO_COMPLEX_POWER_ROW
+#undef ZTHALF_ROW_REAL_TO_COMPLEX_POWER
 #undef ZTHALF_VISIT_ROW
 #undef ZTHALF_VISIT_REMAINDER_ROW
 #undef ZTHALF_ROW_REMAINDER_ENTRY

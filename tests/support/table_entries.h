@@ -35,6 +35,10 @@ using namespace half_ptr;
 #define ZTHALF_VISIT_QUERY(entry, facade, In, function) ZTHALF_VISIT(entry, facade, query_entry<element::In>)
 #define ZTHALF_VISIT_BINARY(op, Left, Right, Out) \
   ZTHALF_VISIT(op##Left##Right, op, binary_entry<element::Left, element::Right, element::Out>)
+#define ZTHALF_VISIT_POWER(op, Left, Right, Out) \
+  ZTHALF_VISIT(op##Left##Right, power, binary_entry<element::Left, element::Right, element::Out>)
+#define ZTHALF_VISIT_BINARY_EARLY_EXIT(op, Left, Right, Out) \
+  ZTHALF_VISIT(op##Left##Right, op, binary_early_exit_entry<element::Left, element::Right, element::Out>)
 #define ZTHALF_VISIT_COMPARISON(entry, op, Left, Right) \
   ZTHALF_VISIT(entry, op, binary_entry<element::Left, element::Right, bool>)
 #define ZTHALF_VISIT_TERNARY(op, A, B, C, Out) \
@@ -54,6 +58,9 @@ void forEachFacadeFunction(Visit visit) {
   ZTHALF_QUERY_ENTRIES(ZTHALF_VISIT_QUERY)
   ZTHALF_BINARY_ENTRIES(ZTHALF_VISIT_BINARY)
   ZTHALF_REMAINDER_ENTRIES(ZTHALF_VISIT_BINARY)
+  ZTHALF_COMPLEX_POWER_ENTRIES(ZTHALF_VISIT_POWER)
+  ZTHALF_REAL_TO_COMPLEX_POWER_ENTRIES(ZTHALF_VISIT_POWER)
+  ZTHALF_POWER_EARLY_EXIT_ENTRIES(ZTHALF_VISIT_BINARY_EARLY_EXIT)
   ZTHALF_SIMPLE_REDUCTION_ENTRIES(ZTHALF_VISIT_SIMPLE_REDUCTION)
   ZTHALF_COMPARISON_ENTRIES(ZTHALF_VISIT_COMPARISON)
   ZTHALF_FMA_ENTRIES(ZTHALF_VISIT_TERNARY)
@@ -66,6 +73,8 @@ void forEachFacadeFunction(Visit visit) {
 #undef ZTHALF_VISIT_TWO_OUT
 #undef ZTHALF_VISIT_QUERY
 #undef ZTHALF_VISIT_BINARY
+#undef ZTHALF_VISIT_POWER
+#undef ZTHALF_VISIT_BINARY_EARLY_EXIT
 #undef ZTHALF_VISIT_COMPARISON
 #undef ZTHALF_VISIT_TERNARY
 #undef ZTHALF_VISIT_PRODUCT

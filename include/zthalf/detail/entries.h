@@ -228,12 +228,22 @@
 #define ZTHALF_HYPOT_ENTRIES(X) ZTHALF_TWENTY_PAIRS(X, hypot)
 #define ZTHALF_ANGLE_ENTRIES(X) ZTHALF_REAL_PAIRS(X, atan2, Half)
 #define ZTHALF_PAIRING_ENTRIES(X) ZTHALF_REAL_PAIRS(X, realToComplex, CplxHalf)
+#define ZTHALF_POWER_ENTRIES(X) ZTHALF_REAL_PAIRS(X, power, Half)
 
 #define ZTHALF_BINARY_ENTRIES(X) \
   ZTHALF_ARITHMETIC_ENTRIES(X)   \
   ZTHALF_HYPOT_ENTRIES(X)        \
   ZTHALF_ANGLE_ENTRIES(X)        \
-  ZTHALF_PAIRING_ENTRIES(X)
+  ZTHALF_PAIRING_ENTRIES(X)      \
+  ZTHALF_POWER_ENTRIES(X)
+
+// Powers whose facade is the real powers' name. Complex operands: as binary rows. Real operands with a complex result:
+// the template instance has the two operands' types only.
+#define ZTHALF_COMPLEX_POWER_ENTRIES(X) ZTHALF_COMPLEX_PAIRS(X, cplxPower)
+#define ZTHALF_REAL_TO_COMPLEX_POWER_ENTRIES(X) ZTHALF_REAL_PAIRS(X, powerRealToComplex, CplxHalf)
+
+// The power that stops: as binary rows, with an answer.
+#define ZTHALF_POWER_EARLY_EXIT_ENTRIES(X) ZTHALF_REAL_PAIRS(X, powerWithEarlyExit, Half)
 
 // Remainder rows: as binary rows, but the template instance has the two operands' types only, and a half is a bare
 // pattern there.

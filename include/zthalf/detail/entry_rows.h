@@ -25,6 +25,13 @@
 #define ZTHALF_REMAINDER_ROW(op, Left, Right, Out)                                                                   \
   ZTHALF_ROW(op##Left##Right, ZTHALF_SIGNATURE(binary, half::storage::Left, half::storage::Right, half::storage::Out), \
              op<half::storage::Left, half::storage::Right>)
+#define ZTHALF_REAL_TO_COMPLEX_POWER_ROW(op, Left, Right, Out)                                                       \
+  ZTHALF_ROW(op##Left##Right, ZTHALF_SIGNATURE(binary, half::element::Left, half::element::Right, half::element::Out), \
+             power<half::element::Left, half::element::Right>)
+#define ZTHALF_POWER_EARLY_EXIT_ROW(op, Left, Right, Out)                                                      \
+  ZTHALF_ROW(op##Left##Right,                                                                                  \
+             ZTHALF_SIGNATURE(binary_early_exit, half::element::Left, half::element::Right, half::element::Out), \
+             op<half::element::Left, half::element::Right, half::element::Out>)
 #define ZTHALF_COMPARISON_ROW(entry, op, Left, Right)                                        \
   ZTHALF_ROW(entry, ZTHALF_SIGNATURE(binary, half::element::Left, half::element::Right, bool), \
              op<half::element::Left, half::element::Right>)
@@ -53,6 +60,9 @@
   ZTHALF_QUERY_ENTRIES(ZTHALF_QUERY_ROW)                               \
   ZTHALF_BINARY_ENTRIES(ZTHALF_BINARY_ROW)                             \
   ZTHALF_REMAINDER_ENTRIES(ZTHALF_REMAINDER_ROW)                       \
+  ZTHALF_COMPLEX_POWER_ENTRIES(ZTHALF_BINARY_ROW)                      \
+  ZTHALF_REAL_TO_COMPLEX_POWER_ENTRIES(ZTHALF_REAL_TO_COMPLEX_POWER_ROW) \
+  ZTHALF_POWER_EARLY_EXIT_ENTRIES(ZTHALF_POWER_EARLY_EXIT_ROW)         \
   ZTHALF_SIMPLE_REDUCTION_ENTRIES(ZTHALF_SIMPLE_REDUCTION_ROW)         \
   ZTHALF_SIMPLE_OMITNAN_REDUCTION_ENTRIES(ZTHALF_SIMPLE_REDUCTION_ROW) \
   ZTHALF_REDUCTION_ENTRIES(ZTHALF_REDUCTION_ROW)                       \

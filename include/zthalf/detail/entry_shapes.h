@@ -22,6 +22,13 @@ using binary_entry = void(Left*, Right*, Out*,                                  
                           unsigned long, unsigned long, unsigned long const*,   // right
                           unsigned long, unsigned long, unsigned long const*);  // output
 
+// True when the whole array was done.
+template <class Left, class Right, class Out>
+using binary_early_exit_entry = bool(Left*, Right*, Out*,                                  //
+                                     unsigned long, unsigned long, unsigned long const*,   // left
+                                     unsigned long, unsigned long, unsigned long const*,   // right
+                                     unsigned long, unsigned long, unsigned long const*);  // output
+
 template <class In, class Out>
 using reduction_entry = void(In*, Out*, unsigned long, unsigned long*, bool);  // dimensions, sizes, first one reduced
 

@@ -29,6 +29,14 @@ namespace half_vector {
   void op(element::Left* a, element::Right* b, element::Out* c, ZTHALF_THREE_SHAPES) {   \
     half_ptr::op##Left##Right##Ptr(bare(a), bare(b), bare(c), ZTHALF_THREE_SHAPE_NAMES); \
   }
+#define ZTHALF_FORWARD_POWER(op, Left, Right, Out)                                             \
+  void power(element::Left* a, element::Right* b, element::Out* c, ZTHALF_THREE_SHAPES) {      \
+    half_ptr::op##Left##Right##Ptr(stored(a), stored(b), stored(c), ZTHALF_THREE_SHAPE_NAMES); \
+  }
+#define ZTHALF_FORWARD_BINARY_EARLY_EXIT(op, Left, Right, Out)                                        \
+  bool op(element::Left* a, element::Right* b, element::Out* c, ZTHALF_THREE_SHAPES) {                \
+    return half_ptr::op##Left##Right##Ptr(stored(a), stored(b), stored(c), ZTHALF_THREE_SHAPE_NAMES); \
+  }
 #define ZTHALF_FORWARD_SIMPLE_REDUCTION(entry, facade, function, In, Out, Accumulator) \
   void facade(element::In* src, element::Out* dst, unsigned long n) {                  \
     half_ptr::entry##Ptr(stored(src), stored(dst), n);                                 \
@@ -52,6 +60,9 @@ ZTHALF_TWO_OUT_ENTRIES(ZTHALF_FORWARD_TWO_OUT)
 ZTHALF_QUERY_ENTRIES(ZTHALF_FORWARD_QUERY)
 ZTHALF_BINARY_ENTRIES(ZTHALF_FORWARD_BINARY)
 ZTHALF_REMAINDER_ENTRIES(ZTHALF_FORWARD_REMAINDER)
+ZTHALF_COMPLEX_POWER_ENTRIES(ZTHALF_FORWARD_POWER)
+ZTHALF_REAL_TO_COMPLEX_POWER_ENTRIES(ZTHALF_FORWARD_POWER)
+ZTHALF_POWER_EARLY_EXIT_ENTRIES(ZTHALF_FORWARD_BINARY_EARLY_EXIT)
 ZTHALF_SIMPLE_REDUCTION_ENTRIES(ZTHALF_FORWARD_SIMPLE_REDUCTION)
 ZTHALF_COMPARISON_ENTRIES(ZTHALF_FORWARD_COMPARISON)
 ZTHALF_FMA_ENTRIES(ZTHALF_FORWARD_TERNARY)
@@ -63,6 +74,8 @@ ZTHALF_PRODUCT_ENTRIES(ZTHALF_FORWARD_PRODUCT)
 #undef ZTHALF_FORWARD_QUERY
 #undef ZTHALF_FORWARD_BINARY
 #undef ZTHALF_FORWARD_REMAINDER
+#undef ZTHALF_FORWARD_POWER
+#undef ZTHALF_FORWARD_BINARY_EARLY_EXIT
 #undef ZTHALF_FORWARD_SIMPLE_REDUCTION
 #undef ZTHALF_FORWARD_COMPARISON
 #undef ZTHALF_FORWARD_TERNARY

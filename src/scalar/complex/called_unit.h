@@ -19,11 +19,16 @@ struct calledUnit {
   static double quotient(double x, double y);
 };
 
+template <class Formula>
+__attribute__((cold, noinline)) auto secondRun(Formula const& formula) {
+  return formula(calledUnit{});
+}
+
 // As onDefinedUnit.
 template <class Formula>
 ZTHALF_INLINE auto onCalledUnit(Formula formula) {
   const auto plain = formula(plainUnit{});
-  return __builtin_expect(hasNaN(plain), false) ? formula(calledUnit{}) : plain;
+  return __builtin_expect(hasNaN(plain), false) ? secondRun(formula) : plain;
 }
 
 }  // namespace zthalf

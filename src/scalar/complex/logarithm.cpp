@@ -26,13 +26,14 @@ constexpr logarithm decimal = {qsl_scalar::log10Single, qsl_scalar::cplxLog10Sin
 
 bool isNegativeNumber(std::uint16_t x) { return pattern::signOf(x) != 0 && !isZero(x) && !pattern::isNaN(x); }
 
-complexHalf ofReal(logarithm const& log, std::uint16_t x) {
+// Called, and not merged into each of its users: they are many.
+__attribute__((noinline)) complexHalf ofReal(logarithm const& log, std::uint16_t x) {
   if (isNegativeNumber(x)) return {narrow(log.ofReal(widenMagnitude<float>(x))), log.pi};
   return {narrow(log.ofReal(widen<float>(x))), pattern::zero};
 }
 
 // In order: the real axis; the imaginary axis, where the angle is known; all else.
-complexHalf ofComplex(logarithm const& log, complexHalf z) {
+__attribute__((noinline)) complexHalf ofComplex(logarithm const& log, complexHalf z) {
   if (isZero(z.im)) return ofReal(log, z.re);
   if (isZero(z.re)) {
     const auto angle = static_cast<std::uint16_t>(log.halfPi | pattern::signOf(z.im));

@@ -4,7 +4,6 @@
 #include <cmath>
 
 #include "scalar/complex/complex_value.h"
-#include "scalar/kernels/cplx_pow.h"
 #include "scalar/power.h"
 
 namespace zthalf {
@@ -19,18 +18,15 @@ ZTHALF_INLINE complexOf<Wide> asComplex(complexOf<T> z) {
   return exactly<Wide>(z);
 }
 
-inline complexOf<float> powerOfComplex(complexOf<float> z, complexOf<float> w) {
-  return qsl_scalar::cplxPowSingle(z, w);
-}
-inline complexOf<double> powerOfComplex(complexOf<double> z, complexOf<double> w) {
-  return qsl_scalar::cplxPowDouble(z, w);
-}
+// By the kernel of the precision, each part rounded to half once.
+complexHalf powerOfComplex(complexOf<float> z, complexOf<float> w);
+complexHalf powerOfComplex(complexOf<double> z, complexOf<double> w);
 
 // Whether x^y is no real number: a negative number to a power that is not an integer. A NaN counts as such a power, an
 // infinity does not.
 template <class Wide>
 ZTHALF_INLINE bool leavesTheRealLine(Wide x, Wide y) {
-  return x < 0 && !(std::round(y) == y);
+  return x < 0 && !(std::trunc(y) == y);
 }
 
 // In float, in double if an operand is made of doubles; each part rounded to half once. Of two real operands the real
@@ -41,7 +37,7 @@ complexHalf complexPowerOf(A x, B y) {
   if constexpr (!isComplexOperand<A> && !isComplexOperand<B>) {
     if (!leavesTheRealLine(exactly<wide>(x), exactly<wide>(y))) return {powerOf(x, y), pattern::zero};
   }
-  return narrowed(powerOfComplex(asComplex<wide>(x), asComplex<wide>(y)));
+  return powerOfComplex(asComplex<wide>(x), asComplex<wide>(y));
 }
 
 }  // namespace zthalf

@@ -1,6 +1,7 @@
 // Functors of the powers: x^y, 2^x, x 2^y and 10^x.
 #pragma once
 
+#include "scalar/complex/power.h"
 #include "scalar/functors/operands.h"
 #include "scalar/power.h"
 #include "scalar/scaling.h"
@@ -14,6 +15,40 @@ struct powerFtor {
   template <class A, class B>
   ZTHALF_INLINE fp16binary_t operator()(A x, B y) const {
     return {zthalf::powerInLanes(plainOperand(x), plainOperand(y))};
+  }
+};
+
+// The same by a call for each pair.
+struct onePowerFtor {
+  static constexpr unsigned long grain = 256;
+  static constexpr bool baseOnly = true;
+  template <class A, class B>
+  static constexpr bool repeatsSinglesFor = true;
+
+  template <class A, class B>
+  fp16binary_t operator()(A x, B y) const {
+    return {zthalf::powerOf(plainOperand(x), plainOperand(y))};
+  }
+};
+
+// Whether the power of a pair is no real number.
+struct leavesTheRealLine {
+  template <class A, class B>
+  bool operator()(A x, B y) const {
+    using wide = zthalf::workingTypeOf<operandOf<A>, operandOf<B>>;
+    return zthalf::leavesTheRealLine(zthalf::exactly<wide>(plainOperand(x)), zthalf::exactly<wide>(plainOperand(y)));
+  }
+};
+
+struct cplxPowerFtor {
+  static constexpr unsigned long grain = 256;
+  static constexpr bool baseOnly = true;  // a call for each pair
+  template <class A, class B>
+  static constexpr bool repeatsSinglesFor = true;
+
+  template <class A, class B>
+  element::CplxHalf operator()(A x, B y) const {
+    return asElement(zthalf::complexPowerOf(plainOperand(x), plainOperand(y)));
   }
 };
 

@@ -45,20 +45,28 @@ struct real<float> {
   static n rootLimit() { return wordOf(0x72FFFFFF); }
 };
 
+// Moves every result of the open kernels by so many units in the last place.
+inline int shiftOfDoubleKernels = 0;
+
 template <>
 struct real<double> {
   using n = num<double>;
+  static n shifted(double x) {
+    const n result = x;
+    if (result.isNaN() || result.isInfinite() || result.isZero()) return result;
+    return n::ofBits(result.bits + static_cast<std::uint64_t>(static_cast<std::int64_t>(shiftOfDoubleKernels)));
+  }
   static n nan() { return n::ofBits(0xFFF8000000000000); }
   static n pi() { return n::ofBits(0x400921FB54442D18); }
   static n ln2() { return n::ofBits(0x3FE62E42FEFA39EF); }
-  static n log(n x) { return qsl_scalar::logDouble(x.value()); }
-  static n log1p(n x) { return qsl_scalar::log1pDouble(x.value()); }
-  static n exp(n x) { return qsl_scalar::expDouble(x.value()); }
+  static n log(n x) { return shifted(qsl_scalar::logDouble(x.value())); }
+  static n log1p(n x) { return shifted(qsl_scalar::log1pDouble(x.value())); }
+  static n exp(n x) { return shifted(qsl_scalar::expDouble(x.value())); }
   static n pow(n x, n y) { return qsl_scalar::powDouble(x.value(), y.value()); }
   static n hypot(n x, n y) { return qsl_scalar::hypotDouble(x.value(), y.value()); }
   static n atan2(n y, n x) { return qsl_scalar::atan2Double(y.value(), x.value()); }
-  static n sin(n x) { return qsl_scalar::sincosDouble(x.value()).sine; }
-  static n cos(n x) { return qsl_scalar::sincosDouble(x.value()).cosine; }
+  static n sin(n x) { return shifted(qsl_scalar::sincosDouble(x.value()).sine); }
+  static n cos(n x) { return shifted(qsl_scalar::sincosDouble(x.value()).cosine); }
   static constexpr double splitFrom = 709.0, most = 0x1.fffffffffffffp1023, leastNormal = 0x1p-1022;
   static constexpr double rootScale = 2251799813685248.0, rootBack = 1.4901161193847656e-08;
   static n rootLimit() { return n::ofBits(0x7C9FFFFFFFFFFFFF); }
@@ -87,7 +95,7 @@ num<Wide> truncation(num<Wide> x) {
 template <class Wide>
 void recover(num<Wide> a, num<Wide> b, num<Wide> c, num<Wide> d, num<Wide>& re, num<Wide>& im) {
   using n = num<Wide>;
-  const n zero = Wide(0), one = Wide(1), most = real<Wide>::most;
+  const n zero = Wide(0), most = real<Wide>::most;
   if (b.isZero() && c.isZero()) {
     re = zero;
     im = a * d;
@@ -125,7 +133,6 @@ void recover(num<Wide> a, num<Wide> b, num<Wide> c, num<Wide> d, num<Wide>& re, 
       im = flag ? term(b, c, b1, c1) + term(a, d, a1, d1) : zero;
     }
   }
-  (void)one;
 }
 
 template <class Wide>

@@ -1,7 +1,5 @@
 #include "scalar/kernels/cplx_log.h"
 
-#include "scalar/kernels/log10_single.h"
-#include "scalar/kernels/log2_single.h"
 #include "tests/scalar/kernels/complex_comparison.h"
 #include "tests/scalar/kernels/complex_steps.h"
 
@@ -56,20 +54,6 @@ TEST(CplxLogSingle, EqualsItsStepsAroundTheUnitCircle) {
                                 static_cast<float>(radius * std::sin(angle))};
     compare.check(cplxLogSingle(z), complex_steps::log<float>(z.re, z.im), z);
   }
-}
-
-TEST(RealLogarithms, ToBaseTwoAndTenEqualTheirStepsOnAStrideOfFloats) {
-  expectSameOnFloats(quickStride, log2Single, [](float x) { return complex_steps::log2(x).value(); });
-  expectSameOnFloats(quickStride, log10Single, [](float x) { return complex_steps::log10(x).value(); });
-}
-
-TEST(RealLogarithms, OfPowersOfTheBase) {
-  for (int k = -149; k < 128; ++k) EXPECT_EQ(log2Single(std::ldexp(1.0f, k)), static_cast<float>(k));
-  EXPECT_EQ(log10Single(1000.0f), 3.0f);
-  EXPECT_EQ(hex(log2Single(negative)), "0xFFC00000");
-  EXPECT_EQ(hex(log2Single(quiet)), "0x7FC00000");
-  EXPECT_EQ(hex(log10Single(negative)), "0xFFC00000");
-  EXPECT_EQ(hex(log10Single(-0.0f)), "0xFF800000");
 }
 
 }  // namespace
