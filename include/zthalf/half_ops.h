@@ -162,6 +162,10 @@ ZTHALF_API bool powerWithEarlyExit(Left* a, Right* b, Out* c, unsigned long na, 
                                    unsigned long const* dimsB, unsigned long nc, unsigned long ndimsC,
                                    unsigned long const* dimsC);
 
+/// x 2^y, on arrays of one size: half_vector::pow2 of two arrays.
+template <class Left, class Right, class Out>
+ZTHALF_API void pow2(Left* x, Right* y, Out* out, unsigned long n);
+
 /// On bare patterns: an unsigned short operand is a half, and so is every result.
 template <class Left, class Right>
 ZTHALF_API void mod(Left* a, Right* b, unsigned short* c, unsigned long na, unsigned long ndimsA,

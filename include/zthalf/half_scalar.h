@@ -223,6 +223,11 @@ ZTHALF_API std::complex<half_t> log10(std::complex<half_t> z);
 /// infinitely imaginary power, without a real part of +infinity, is 0xFE00 twice.
 ZTHALF_API std::complex<half_t> power(std::complex<half_t> z, std::complex<half_t> w);
 
+/// Only the real parts are used: pow2(re z, re w), with an imaginary part of +0. Each call first issues the host's
+/// warning "half:error:ignoredImagPart" (zthalf/host/exceptions.h), whatever the imaginary parts are; what it throws
+/// passes through.
+ZTHALF_API std::complex<half_t> pow2(std::complex<half_t> z, std::complex<half_t> w);
+
 /// Trigonometric and hyperbolic functions of complex values and their inverses, computed and rounded in the same way.
 /// Where one part of z is zero and one part of the result is so by symmetry, that part is +0.
 

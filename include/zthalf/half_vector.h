@@ -39,6 +39,8 @@ namespace half_vector {
   ZTHALF_API bool op(element::Left* a, element::Right* b, element::Out* c, unsigned long na, unsigned long ndimsA,   \
                      unsigned long const* dimsA, unsigned long nb, unsigned long ndimsB, unsigned long const* dimsB, \
                      unsigned long nc, unsigned long ndimsC, unsigned long const* dimsC);
+#define ZTHALF_DECLARE_FLAT_BINARY(op, Left, Right, Out) \
+  ZTHALF_API void op(element::Left* x, element::Right* y, element::Out* out, unsigned long n);
 #define ZTHALF_DECLARE_COMPARISON(entry, op, Left, Right)                                                            \
   ZTHALF_API void op(element::Left* a, element::Right* b, bool* c, unsigned long na, unsigned long ndimsA,           \
                      unsigned long const* dimsA, unsigned long nb, unsigned long ndimsB, unsigned long const* dimsB, \
@@ -48,7 +50,7 @@ namespace half_vector {
                      unsigned long ndimsA, unsigned long const* dimsA, unsigned long nb, unsigned long ndimsB,       \
                      unsigned long const* dimsB, unsigned long nc, unsigned long ndimsC, unsigned long const* dimsC, \
                      unsigned long nd, unsigned long ndimsD, unsigned long const* dimsD);
-#define ZTHALF_DECLARE_PRODUCT(op, Left, Right, Out)                                                           \
+#define ZTHALF_DECLARE_PRODUCT(op, Left, Right, Out)                                                         \
   ZTHALF_API void op(element::Left* a, element::Right* b, element::Out* c, unsigned long m, unsigned long k, \
                      unsigned long n);
 
@@ -190,6 +192,14 @@ ZTHALF_REAL_TO_COMPLEX_POWER_ENTRIES(ZTHALF_DECLARE_POWER)
 /// stops. True when all were done, and for an nc of 0.
 ZTHALF_POWER_EARLY_EXIT_ENTRIES(ZTHALF_DECLARE_BINARY_EARLY_EXIT)
 
+/// pow2(x, y, out, n): out[i] = x[i] times 2^k with k the integer part of y[i] towards zero, as half_scalar::pow2 of
+/// two values states. All three arrays have n elements: there is no expansion. The output may be one of the operands.
+///
+/// With a complex operand only real parts are used, and the result has an imaginary part of +0. For each element,
+/// before it is computed and whatever its imaginary part is, the host's warning "half:error:ignoredImagPart" is issued
+/// (zthalf/host/exceptions.h); what it throws passes through, and the elements before are finished.
+ZTHALF_SCALING_ENTRIES(ZTHALF_DECLARE_FLAT_BINARY)
+
 /// eq, ne, gt, ge, lt, le: comparisons of two arrays with implicit expansion, shapes as for plus. The left operand is
 /// an array of half_t or std::complex<half_t>; the right one is of halves, floats, doubles, integers of 8 to 64 bits,
 /// or complex numbers made of any of these. bool stands on either side of a real or complex half. In a bool operand
@@ -245,6 +255,7 @@ ZTHALF_PRODUCT_ENTRIES(ZTHALF_DECLARE_PRODUCT)
 #undef ZTHALF_DECLARE_BINARY
 #undef ZTHALF_DECLARE_POWER
 #undef ZTHALF_DECLARE_BINARY_EARLY_EXIT
+#undef ZTHALF_DECLARE_FLAT_BINARY
 #undef ZTHALF_DECLARE_COMPARISON
 #undef ZTHALF_DECLARE_TERNARY
 #undef ZTHALF_DECLARE_PRODUCT

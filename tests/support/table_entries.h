@@ -39,6 +39,8 @@ using namespace half_ptr;
   ZTHALF_VISIT(op##Left##Right, power, binary_entry<element::Left, element::Right, element::Out>)
 #define ZTHALF_VISIT_BINARY_EARLY_EXIT(op, Left, Right, Out) \
   ZTHALF_VISIT(op##Left##Right, op, binary_early_exit_entry<element::Left, element::Right, element::Out>)
+#define ZTHALF_VISIT_FLAT_BINARY(op, Left, Right, Out) \
+  ZTHALF_VISIT(op##Left##Right, op, flat_binary_entry<element::Left, element::Right, element::Out>)
 #define ZTHALF_VISIT_COMPARISON(entry, op, Left, Right) \
   ZTHALF_VISIT(entry, op, binary_entry<element::Left, element::Right, bool>)
 #define ZTHALF_VISIT_TERNARY(op, A, B, C, Out) \
@@ -61,6 +63,7 @@ void forEachFacadeFunction(Visit visit) {
   ZTHALF_COMPLEX_POWER_ENTRIES(ZTHALF_VISIT_POWER)
   ZTHALF_REAL_TO_COMPLEX_POWER_ENTRIES(ZTHALF_VISIT_POWER)
   ZTHALF_POWER_EARLY_EXIT_ENTRIES(ZTHALF_VISIT_BINARY_EARLY_EXIT)
+  ZTHALF_SCALING_ENTRIES(ZTHALF_VISIT_FLAT_BINARY)
   ZTHALF_SIMPLE_REDUCTION_ENTRIES(ZTHALF_VISIT_SIMPLE_REDUCTION)
   ZTHALF_COMPARISON_ENTRIES(ZTHALF_VISIT_COMPARISON)
   ZTHALF_FMA_ENTRIES(ZTHALF_VISIT_TERNARY)
@@ -75,6 +78,7 @@ void forEachFacadeFunction(Visit visit) {
 #undef ZTHALF_VISIT_BINARY
 #undef ZTHALF_VISIT_POWER
 #undef ZTHALF_VISIT_BINARY_EARLY_EXIT
+#undef ZTHALF_VISIT_FLAT_BINARY
 #undef ZTHALF_VISIT_COMPARISON
 #undef ZTHALF_VISIT_TERNARY
 #undef ZTHALF_VISIT_PRODUCT

@@ -32,6 +32,10 @@
   ZTHALF_ROW(op##Left##Right,                                                                                  \
              ZTHALF_SIGNATURE(binary_early_exit, half::element::Left, half::element::Right, half::element::Out), \
              op<half::element::Left, half::element::Right, half::element::Out>)
+#define ZTHALF_FLAT_BINARY_ROW(op, Left, Right, Out)                                                               \
+  ZTHALF_ROW(op##Left##Right,                                                                                      \
+             ZTHALF_SIGNATURE(flat_binary, half::element::Left, half::element::Right, half::element::Out),         \
+             op<half::element::Left, half::element::Right, half::element::Out>)
 #define ZTHALF_COMPARISON_ROW(entry, op, Left, Right)                                        \
   ZTHALF_ROW(entry, ZTHALF_SIGNATURE(binary, half::element::Left, half::element::Right, bool), \
              op<half::element::Left, half::element::Right>)
@@ -63,6 +67,7 @@
   ZTHALF_COMPLEX_POWER_ENTRIES(ZTHALF_BINARY_ROW)                      \
   ZTHALF_REAL_TO_COMPLEX_POWER_ENTRIES(ZTHALF_REAL_TO_COMPLEX_POWER_ROW) \
   ZTHALF_POWER_EARLY_EXIT_ENTRIES(ZTHALF_POWER_EARLY_EXIT_ROW)         \
+  ZTHALF_SCALING_ENTRIES(ZTHALF_FLAT_BINARY_ROW)                       \
   ZTHALF_SIMPLE_REDUCTION_ENTRIES(ZTHALF_SIMPLE_REDUCTION_ROW)         \
   ZTHALF_SIMPLE_OMITNAN_REDUCTION_ENTRIES(ZTHALF_SIMPLE_REDUCTION_ROW) \
   ZTHALF_REDUCTION_ENTRIES(ZTHALF_REDUCTION_ROW)                       \

@@ -29,6 +29,10 @@ using binary_early_exit_entry = bool(Left*, Right*, Out*,                       
                                      unsigned long, unsigned long, unsigned long const*,   // right
                                      unsigned long, unsigned long, unsigned long const*);  // output
 
+// Arrays of one size, without shapes.
+template <class Left, class Right, class Out>
+using flat_binary_entry = void(Left*, Right*, Out*, unsigned long);
+
 template <class In, class Out>
 using reduction_entry = void(In*, Out*, unsigned long, unsigned long*, bool);  // dimensions, sizes, first one reduced
 

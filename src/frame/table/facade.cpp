@@ -37,6 +37,10 @@ namespace half_vector {
   bool op(element::Left* a, element::Right* b, element::Out* c, ZTHALF_THREE_SHAPES) {                \
     return half_ptr::op##Left##Right##Ptr(stored(a), stored(b), stored(c), ZTHALF_THREE_SHAPE_NAMES); \
   }
+#define ZTHALF_FORWARD_FLAT_BINARY(op, Left, Right, Out)                             \
+  void op(element::Left* x, element::Right* y, element::Out* out, unsigned long n) { \
+    half_ptr::op##Left##Right##Ptr(stored(x), stored(y), stored(out), n);            \
+  }
 #define ZTHALF_FORWARD_SIMPLE_REDUCTION(entry, facade, function, In, Out, Accumulator) \
   void facade(element::In* src, element::Out* dst, unsigned long n) {                  \
     half_ptr::entry##Ptr(stored(src), stored(dst), n);                                 \
@@ -49,9 +53,9 @@ namespace half_vector {
   void op(element::A* a, element::B* b, element::C* c, element::Out* d, ZTHALF_FOUR_SHAPES) {        \
     half_ptr::op##A##B##C##Ptr(stored(a), stored(b), stored(c), stored(d), ZTHALF_FOUR_SHAPE_NAMES); \
   }
-#define ZTHALF_FORWARD_PRODUCT(op, Left, Right, Out)                                                                  \
+#define ZTHALF_FORWARD_PRODUCT(op, Left, Right, Out)                                                                 \
   void op(element::Left* a, element::Right* b, element::Out* c, unsigned long m, unsigned long k, unsigned long n) { \
-    half_ptr::op##Left##Right##Ptr(stored(a), stored(b), stored(c), m, k, n);                                         \
+    half_ptr::op##Left##Right##Ptr(stored(a), stored(b), stored(c), m, k, n);                                        \
   }
 
 ZTHALF_UNARY_ENTRIES(ZTHALF_FORWARD_UNARY)
@@ -63,6 +67,7 @@ ZTHALF_REMAINDER_ENTRIES(ZTHALF_FORWARD_REMAINDER)
 ZTHALF_COMPLEX_POWER_ENTRIES(ZTHALF_FORWARD_POWER)
 ZTHALF_REAL_TO_COMPLEX_POWER_ENTRIES(ZTHALF_FORWARD_POWER)
 ZTHALF_POWER_EARLY_EXIT_ENTRIES(ZTHALF_FORWARD_BINARY_EARLY_EXIT)
+ZTHALF_SCALING_ENTRIES(ZTHALF_FORWARD_FLAT_BINARY)
 ZTHALF_SIMPLE_REDUCTION_ENTRIES(ZTHALF_FORWARD_SIMPLE_REDUCTION)
 ZTHALF_COMPARISON_ENTRIES(ZTHALF_FORWARD_COMPARISON)
 ZTHALF_FMA_ENTRIES(ZTHALF_FORWARD_TERNARY)
@@ -76,6 +81,7 @@ ZTHALF_PRODUCT_ENTRIES(ZTHALF_FORWARD_PRODUCT)
 #undef ZTHALF_FORWARD_REMAINDER
 #undef ZTHALF_FORWARD_POWER
 #undef ZTHALF_FORWARD_BINARY_EARLY_EXIT
+#undef ZTHALF_FORWARD_FLAT_BINARY
 #undef ZTHALF_FORWARD_SIMPLE_REDUCTION
 #undef ZTHALF_FORWARD_COMPARISON
 #undef ZTHALF_FORWARD_TERNARY

@@ -1,6 +1,7 @@
 // Functors of the powers: x^y, 2^x, x 2^y and 10^x.
 #pragma once
 
+#include "host/api/warnings.h"
 #include "scalar/complex/power.h"
 #include "scalar/functors/operands.h"
 #include "scalar/power.h"
@@ -52,16 +53,34 @@ struct cplxPowerFtor {
   }
 };
 
-// 2^x, and x 2^y.
+template <class T>
+ZTHALF_INLINE T realPartOf(T x) {
+  return x;
+}
+template <class T>
+ZTHALF_INLINE T realPartOf(std::complex<T> z) {
+  return z.real();
+}
+
+// 2^x, and x 2^y. Of complex operands the real parts count, and the host hears of each.
 struct pow2Ftor {
   static constexpr unsigned long grain = 256;
   template <class... Elements>
-  static constexpr bool baseOnlyFor = sizeof...(Elements) == 1;  // the table is faster than the widest vectors
+  static constexpr bool baseOnlyFor = sizeof...(Elements) == 1 ||  // the table is faster than the widest vectors
+                                      (partsOf<Elements>::areTwo || ...);  // a call of the host for each element
+  // There are loops over two arrays alone.
+  template <class A, class B>
+  static constexpr bool repeatsSinglesFor = true;
 
   ZTHALF_INLINE fp16binary_t operator()(fp16binary_t x) const { return {zthalf::pow2Of(x.bits)}; }
   template <class A, class B>
   ZTHALF_INLINE fp16binary_t operator()(A x, B y) const {
     return {zthalf::scaledByPowerOfTwo(plainOperand(x), plainOperand(y))};
+  }
+  template <class A, class B>
+  requires isComplexPair<A, B> element::CplxHalf operator()(A x, B y) const {
+    zthalf::warnOfIgnoredImaginaryPart();
+    return {(*this)(realPartOf(x), realPartOf(y)), {zthalf::pattern::zero}};
   }
 };
 
