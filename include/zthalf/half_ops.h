@@ -161,4 +161,8 @@ ZTHALF_API void fma(A* a, B* b, C* c, Out* d, unsigned long na, unsigned long nd
                     unsigned long ndimsC, unsigned long const* dimsC, unsigned long nd, unsigned long ndimsD,
                     unsigned long const* dimsD);
 
+/// The matrix product, on the pairs of element types of its rows.
+template <class Left, class Right, class Out>
+ZTHALF_API void mtimes(Left* a, Right* b, Out* c, unsigned long m, unsigned long k, unsigned long n);
+
 }  // namespace half

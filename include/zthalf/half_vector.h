@@ -42,6 +42,9 @@ namespace half_vector {
                      unsigned long ndimsA, unsigned long const* dimsA, unsigned long nb, unsigned long ndimsB,       \
                      unsigned long const* dimsB, unsigned long nc, unsigned long ndimsC, unsigned long const* dimsC, \
                      unsigned long nd, unsigned long ndimsD, unsigned long const* dimsD);
+#define ZTHALF_DECLARE_PRODUCT(op, Left, Right, Out)                                                           \
+  ZTHALF_API void op(element::Left* a, element::Right* b, element::Out* c, unsigned long m, unsigned long k, \
+                     unsigned long n);
 
 /// convertToHalf(T* src, half_t* dst, unsigned long n) and convertFromHalf(half_t* src, T* dst, unsigned long n), for T
 /// any of float, double, unsigned char, signed char, unsigned short, short, unsigned int, int, unsigned long long,
@@ -176,6 +179,28 @@ ZTHALF_COMPARISON_ENTRIES(ZTHALF_DECLARE_COMPARISON)
 /// and failures as for plus.
 ZTHALF_FMA_ENTRIES(ZTHALF_DECLARE_TERNARY)
 
+/// mtimes(a, b, c, m, k, n): the matrix product c = a * b of an m by k and a k by n matrix, dense and column by column:
+/// element (i, j) of c is c[i + j * m], those of a and b are a[i + l * m] and b[l + j * k]. One operand is an array of
+/// halves or complex halves, the other one of halves, floats or doubles, real or complex; c is half, or complex half
+/// where an operand is complex. c must not overlap a or b.
+///
+/// Products and sums are made in float, in double where an operand is double, each rounded by itself, and an output is
+/// rounded to half once at the end: only there can it overflow a half. The inner dimension is taken in stretches of
+/// 256. In each of them eight sums are made, the t-th one of the products with index t, t + 8, t + 16, ..., beginning
+/// with +0; then they are added to the output, the 0th one first, the output being the second operand. That order is
+/// part of the result, whatever the processor and the sizes of the matrices; columns of c do not depend on each other.
+///
+/// A complex product has both parts of both factors, a real operand with an imaginary part of +0: (p r - q s) + (q r +
+/// p s) i. Where both parts come out as NaNs beside an infinite factor or product, they are made anew as infinities in
+/// the way of the C standard's Annex G. Every NaN goes by the order of operands as written here.
+///
+/// k = 0 gives +0 everywhere, and neither a nor b is read. k = 1 is an outer product: c is times(a, b, ...) with shapes
+/// m by 1 and 1 by n, so that -0 stays, and complex numbers multiply as they do there. m = 0 or n = 0 writes nothing.
+///
+/// Working memory grows with the sizes up to 4 MiB (single; twice that for double, and again for complex), of which
+/// small products take none but a little of the stack: a failure to get it throws std::bad_alloc before c is written.
+ZTHALF_PRODUCT_ENTRIES(ZTHALF_DECLARE_PRODUCT)
+
 #undef ZTHALF_DECLARE_UNARY
 #undef ZTHALF_DECLARE_EARLY_EXIT
 #undef ZTHALF_DECLARE_TWO_OUT
@@ -183,6 +208,7 @@ ZTHALF_FMA_ENTRIES(ZTHALF_DECLARE_TERNARY)
 #undef ZTHALF_DECLARE_BINARY
 #undef ZTHALF_DECLARE_COMPARISON
 #undef ZTHALF_DECLARE_TERNARY
+#undef ZTHALF_DECLARE_PRODUCT
 
 /// The distance of a[i] and b[i] in units in the last place of half, at the smaller exponent of the two: out[i] as
 /// half_scalar::ulp tells. Operands that are not half are compared at full width; where neither is, the unit and the

@@ -2,7 +2,8 @@
 //
 // A pass is a type with a static, always inlined run(). leveled<Pass, Args...> compiles it once for each level and
 // chosen() gives the version for the level in use. A pass whose member isWide is false gains nothing from width, and is
-// compiled for the base level alone. The attribute is an instruction list and not a processor's name, so
+// compiled for the base level alone. A pass that is written in vectors has run<bytes>() instead, and is told the size of
+// the level's registers. The attribute is an instruction list and not a processor's name, so
 // that helpers compiled for the base level can be merged into a wide pass by both compilers.
 #pragma once
 
@@ -67,10 +68,10 @@ template <class Pass, class... Args>
 struct leveled {
   using function = void (*)(Args...);
 
-  static void base(Args... args) { Pass::run(args...); }
+  static void base(Args... args) { runWith<16>(args...); }
 #if ZTHALF_HAS_LEVELS
-  ZTHALF_TARGET_V3 static void v3(Args... args) { Pass::run(args...); }
-  ZTHALF_TARGET_V4 static void v4(Args... args) { Pass::run(args...); }
+  ZTHALF_TARGET_V3 static void v3(Args... args) { runWith<32>(args...); }
+  ZTHALF_TARGET_V4 static void v4(Args... args) { runWith<64>(args...); }
 #endif
 
   static function chosen() {
@@ -87,6 +88,16 @@ struct leveled {
     }
 #endif
     return &base;
+  }
+
+ private:
+  template <unsigned bytes>
+  ZTHALF_INLINE static void runWith(Args... args) {
+    if constexpr (requires { Pass::template run<bytes>(args...); }) {
+      Pass::template run<bytes>(args...);
+    } else {
+      Pass::run(args...);
+    }
   }
 };
 

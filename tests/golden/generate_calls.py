@@ -10,7 +10,7 @@ WITHOUT_ENTRY = re.compile(r'function +(half_vector::ulp)\((.*)\)')
 SCALAR = re.compile(r'function +(half_scalar::[\w:]+)\((.*)\)')
 
 HEAD = '''// Written by tests/golden/generate_calls.py.
-#include "tests/golden/sweep.h"
+#include "tests/golden/linalg_sweep.h"
 #include "zthalf/zthalf.h"
 
 namespace zthalf::golden {

@@ -39,6 +39,8 @@ using namespace half_ptr;
   ZTHALF_VISIT(entry, op, binary_entry<element::Left, element::Right, bool>)
 #define ZTHALF_VISIT_TERNARY(op, A, B, C, Out) \
   ZTHALF_VISIT(op##A##B##C, op, ternary_entry<element::A, element::B, element::C, element::Out>)
+#define ZTHALF_VISIT_PRODUCT(op, Left, Right, Out) \
+  ZTHALF_VISIT(op##Left##Right, op, product_entry<element::Left, element::Right, element::Out>)
 #define ZTHALF_VISIT_SIMPLE_REDUCTION(entry, facade, function, In, Out, Accumulator) \
   ZTHALF_VISIT(entry, facade, unary_entry<element::In, element::Out>)
 
@@ -55,6 +57,7 @@ void forEachFacadeFunction(Visit visit) {
   ZTHALF_SIMPLE_REDUCTION_ENTRIES(ZTHALF_VISIT_SIMPLE_REDUCTION)
   ZTHALF_COMPARISON_ENTRIES(ZTHALF_VISIT_COMPARISON)
   ZTHALF_FMA_ENTRIES(ZTHALF_VISIT_TERNARY)
+  ZTHALF_PRODUCT_ENTRIES(ZTHALF_VISIT_PRODUCT)
 }
 
 #undef ZTHALF_VISIT
@@ -65,6 +68,7 @@ void forEachFacadeFunction(Visit visit) {
 #undef ZTHALF_VISIT_BINARY
 #undef ZTHALF_VISIT_COMPARISON
 #undef ZTHALF_VISIT_TERNARY
+#undef ZTHALF_VISIT_PRODUCT
 #undef ZTHALF_VISIT_SIMPLE_REDUCTION
 
 }  // namespace facade_rows

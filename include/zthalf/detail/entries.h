@@ -298,6 +298,9 @@
   X(fma, Double, Double, Single, Single) \
   X(fma, Double, Double, Double, Double)
 
+// Matrix products: as binary rows, without shapes.
+#define ZTHALF_PRODUCT_ENTRIES(X) ZTHALF_TWENTY_PAIRS(X, mtimes)
+
 // Binary rows that the table has and the facade has no function for: half_vector::minBinOp and maxBinOp choose among
 // them.
 

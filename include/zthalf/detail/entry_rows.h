@@ -32,6 +32,9 @@
   ZTHALF_ROW(op##A##B##C,                                                                                       \
              ZTHALF_SIGNATURE(ternary, half::element::A, half::element::B, half::element::C, half::element::Out), \
              op<half::element::A, half::element::B, half::element::C, half::element::Out>)
+#define ZTHALF_PRODUCT_ROW(op, Left, Right, Out)                                                                      \
+  ZTHALF_ROW(op##Left##Right, ZTHALF_SIGNATURE(product, half::element::Left, half::element::Right, half::element::Out), \
+             op<half::element::Left, half::element::Right, half::element::Out>)
 #define ZTHALF_SIMPLE_REDUCTION_ROW(entry, facade, function, In, Out, Accumulator) \
   ZTHALF_ROW(entry, ZTHALF_SIGNATURE(unary, half::element::In, half::element::Out),  \
              function<half::element::In, half::element::Out, half::element::Accumulator>)
@@ -54,5 +57,6 @@
   ZTHALF_REDUCTION_ENTRIES(ZTHALF_REDUCTION_ROW)                       \
   ZTHALF_COMPARISON_ENTRIES(ZTHALF_COMPARISON_ROW)                     \
   ZTHALF_FMA_ENTRIES(ZTHALF_TERNARY_ROW)                               \
+  ZTHALF_PRODUCT_ENTRIES(ZTHALF_PRODUCT_ROW)                           \
   ZTHALF_CHOSEN_BINARY_ENTRIES(ZTHALF_BINARY_ROW)                      \
   ZTHALF_EXTREMUM_REDUCTION_ENTRIES(ZTHALF_EXTREMUM_ROW)

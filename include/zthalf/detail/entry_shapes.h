@@ -32,6 +32,10 @@ using ternary_entry = void(A*, B*, C*, Out*,                                    
                            unsigned long, unsigned long, unsigned long const*,   // c
                            unsigned long, unsigned long, unsigned long const*);  // output
 
+// Rows of the left operand, inner dimension, columns of the right one.
+template <class Left, class Right, class Out>
+using product_entry = void(Left*, Right*, Out*, unsigned long, unsigned long, unsigned long);
+
 // The index of the result beside it; the last flag is whether it counts in the whole array.
 template <class In, class Out>
 using indexed_whole_entry = void(In*, Out*, double*, unsigned long);

@@ -41,6 +41,10 @@ namespace half_vector {
   void op(element::A* a, element::B* b, element::C* c, element::Out* d, ZTHALF_FOUR_SHAPES) {        \
     half_ptr::op##A##B##C##Ptr(stored(a), stored(b), stored(c), stored(d), ZTHALF_FOUR_SHAPE_NAMES); \
   }
+#define ZTHALF_FORWARD_PRODUCT(op, Left, Right, Out)                                                                  \
+  void op(element::Left* a, element::Right* b, element::Out* c, unsigned long m, unsigned long k, unsigned long n) { \
+    half_ptr::op##Left##Right##Ptr(stored(a), stored(b), stored(c), m, k, n);                                         \
+  }
 
 ZTHALF_UNARY_ENTRIES(ZTHALF_FORWARD_UNARY)
 ZTHALF_EARLY_EXIT_ENTRIES(ZTHALF_FORWARD_EARLY_EXIT)
@@ -51,6 +55,7 @@ ZTHALF_REMAINDER_ENTRIES(ZTHALF_FORWARD_REMAINDER)
 ZTHALF_SIMPLE_REDUCTION_ENTRIES(ZTHALF_FORWARD_SIMPLE_REDUCTION)
 ZTHALF_COMPARISON_ENTRIES(ZTHALF_FORWARD_COMPARISON)
 ZTHALF_FMA_ENTRIES(ZTHALF_FORWARD_TERNARY)
+ZTHALF_PRODUCT_ENTRIES(ZTHALF_FORWARD_PRODUCT)
 
 #undef ZTHALF_FORWARD_UNARY
 #undef ZTHALF_FORWARD_EARLY_EXIT
@@ -61,5 +66,6 @@ ZTHALF_FMA_ENTRIES(ZTHALF_FORWARD_TERNARY)
 #undef ZTHALF_FORWARD_SIMPLE_REDUCTION
 #undef ZTHALF_FORWARD_COMPARISON
 #undef ZTHALF_FORWARD_TERNARY
+#undef ZTHALF_FORWARD_PRODUCT
 
 }  // namespace half_vector

@@ -1,0 +1,153 @@
+#include "linalg/matrix_product.h"
+
+#include <algorithm>
+#include <cstring>
+
+#include "linalg/micro_kernel.h"
+#include "linalg/panels.h"
+#include "linalg/scratch.h"
+#include "linalg/settlement.h"
+
+namespace zthalf::linalg {
+
+namespace {
+
+// Outputs are finished in blocks of so many rows by tileSize columns: their sums wait in memory while the inner
+// dimension passes by, so a stretch of the right operand is widened once for all of these rows.
+constexpr unsigned long blockRows = 4 * tileSize;
+
+// As many numbers of the left operand are widened at a time, on their way to the panels.
+constexpr unsigned long stageSize = 2048;
+
+unsigned long roundedUp(unsigned long n, unsigned long unit) { return (n + unit - 1) / unit * unit; }
+
+template <class Base, bool isComplex>
+class product {
+ public:
+  product(operand<Base> const& a, operand<Base> const& b, std::uint16_t* out, unsigned long m, unsigned long k,
+          unsigned long n)
+      : a_(a), b_(b), out_(out), m_(m), k_(k), n_(n), shape_(panelShapeOfLevel<Base, isComplex>()), memory_(bytes()) {
+    aTile_ = memory_.take<Base>(aSize() * parts);
+    stage_ = memory_.take<Base>(stageTotal() * parts);
+    bTile_ = memory_.take<Base>(bSize() * parts);
+    cTile_ = memory_.take<Base>(cSize() * parts);
+  }
+
+  void run() {
+    for (unsigned long j0 = 0; j0 < n_; j0 += tileSize) {
+      for (unsigned long i0 = 0; i0 < m_; i0 += blockRows) {
+        finishBlock(i0, std::min(blockRows, m_ - i0), j0, std::min(tileSize, n_ - j0));
+      }
+    }
+  }
+
+ private:
+  static constexpr unsigned parts = isComplex ? 2 : 1;
+
+  // The largest tiles there will be.
+  unsigned long tileRows() const { return std::min(m_, tileSize); }
+  unsigned long tileDepth() const { return std::min(k_, tileSize); }
+  unsigned long tileColumns() const { return std::min(n_, tileSize); }
+  bool isOnePanel() const { return m_ <= shape_.rows; }
+
+  // A single panel stays as it was read; behind its last column a vector may reach over the end.
+  unsigned long aSize() const {
+    return isOnePanel() ? m_ * tileDepth() + shape_.rows : roundedUp(tileRows(), shape_.rows) * tileDepth();
+  }
+  unsigned long stageTotal() const { return isOnePanel() ? 0 : std::max(stageSize, tileRows()) + shape_.rows; }
+  unsigned long bSize() const { return tileDepth() * tileColumns(); }
+  unsigned long cStride() const { return roundedUp(std::min(m_, blockRows), shape_.width); }
+  unsigned long cSize() const { return cStride() * tileColumns(); }
+  std::size_t bytes() const {
+    return scratch::bytesFor<Base>(aSize() * parts) + scratch::bytesFor<Base>(stageTotal() * parts) +
+           scratch::bytesFor<Base>(bSize() * parts) + scratch::bytesFor<Base>(cSize() * parts);
+  }
+
+  Base* imaginary(Base* re, unsigned long plane) const { return isComplex ? re + plane : nullptr; }
+
+  void finishBlock(unsigned long i0, unsigned long rows, unsigned long j0, unsigned long columns) {
+    std::memset(cTile_, 0, cSize() * parts * sizeof(Base));
+    for (unsigned long l0 = 0; l0 < k_; l0 += tileSize) {
+      const unsigned long depth = std::min(tileSize, k_ - l0);
+      b_.read(l0, depth, j0, columns, bTile_, imaginary(bTile_, bSize()));
+      for (unsigned long i = 0; i < rows; i += tileSize) {
+        const unsigned long height = std::min(tileSize, rows - i);
+        readLeft(i0 + i, height, l0, depth);
+        addTile(i, height, columns, depth);
+      }
+    }
+    finish(i0, rows, j0, columns);
+  }
+
+  void readLeft(unsigned long i0, unsigned long rows, unsigned long l0, unsigned long depth) {
+    if (isOnePanel()) {
+      a_.read(i0, rows, l0, depth, aTile_, imaginary(aTile_, aSize()));
+      for (unsigned p = 0; p < parts; ++p) std::fill_n(aTile_ + p * aSize() + rows * depth, shape_.rows, Base{0});
+      return;
+    }
+    const auto place = leveled<placePass<Base, isComplex>, stagedColumns<Base> const*>::chosen();
+    const unsigned long batch = std::max(1ul, stageSize / rows);
+    for (unsigned long l = 0; l < depth; l += batch) {
+      const unsigned long columns = std::min(batch, depth - l);
+      a_.read(i0, rows, l0 + l, columns, stage_, imaginary(stage_, stageTotal()));
+      for (unsigned p = 0; p < parts; ++p)
+        std::fill_n(stage_ + p * stageTotal() + rows * columns, shape_.rows, Base{0});
+      const stagedColumns<Base> staged{
+          stage_, rows, columns, stageTotal(), aTile_ + l * shape_.rows, shape_.rows * depth, aSize()};
+      place(&staged);
+    }
+  }
+
+  void addTile(unsigned long i, unsigned long rows, unsigned long columns, unsigned long depth) {
+    const tileProduct<Base> tile{aTile_,
+                                 isOnePanel() ? rows : shape_.rows,
+                                 shape_.rows * depth,
+                                 aSize(),
+                                 bTile_,
+                                 depth,
+                                 bSize(),
+                                 cTile_ + i,
+                                 cStride(),
+                                 cSize(),
+                                 rows,
+                                 columns,
+                                 depth,
+                                 false};
+    leveled<tilePass<Base, isComplex>, tileProduct<Base> const*>::chosen()(&tile);
+  }
+
+  void finish(unsigned long i0, unsigned long rows, unsigned long j0, unsigned long columns) {
+    const finishedTile<Base> tile{cTile_, cStride(), cSize(), rows, columns, out_ + parts * (i0 + j0 * m_), m_};
+    bool anyNaN;
+    leveled<storePass<Base, isComplex>, finishedTile<Base> const*, bool*>::chosen()(&tile, &anyNaN);
+    if (anyNaN) settleNaNs<Base, isComplex>(a_, b_, k_, i0, j0, tile);
+  }
+
+  operand<Base> const& a_;
+  operand<Base> const& b_;
+  std::uint16_t* out_;
+  unsigned long m_, k_, n_;
+  panelShape shape_;
+  scratch memory_;
+  Base *aTile_, *stage_, *bTile_, *cTile_;
+};
+
+}  // namespace
+
+template <class Base, bool isComplex>
+void multiply(operand<Base> const& a, operand<Base> const& b, std::uint16_t* out, unsigned long m, unsigned long k,
+              unsigned long n) {
+  if (m == 0 || n == 0) return;
+  product<Base, isComplex>(a, b, out, m, k, n).run();
+}
+
+template void multiply<float, false>(operand<float> const&, operand<float> const&, std::uint16_t*, unsigned long,
+                                     unsigned long, unsigned long);
+template void multiply<double, false>(operand<double> const&, operand<double> const&, std::uint16_t*, unsigned long,
+                                      unsigned long, unsigned long);
+template void multiply<float, true>(operand<float> const&, operand<float> const&, std::uint16_t*, unsigned long,
+                                    unsigned long, unsigned long);
+template void multiply<double, true>(operand<double> const&, operand<double> const&, std::uint16_t*, unsigned long,
+                                     unsigned long, unsigned long);
+
+}  // namespace zthalf::linalg

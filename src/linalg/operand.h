@@ -1,0 +1,94 @@
+// An operand of a product, whatever its elements are: read column by column into numbers of the working type, real and
+// imaginary parts apart.
+#pragma once
+
+#include <complex>
+#include <cstdint>
+#include <cstring>
+#include <type_traits>
+
+#include "core/float_conversion.h"
+#include "core/instruction_level.h"
+#include "core/nan_policy.h"
+#include "zthalf/half_t.h"
+
+namespace zthalf::linalg {
+
+template <class T>
+inline constexpr bool isComplexElement = false;
+template <class T>
+inline constexpr bool isComplexElement<std::complex<T>> = true;
+
+// What an element is made of, as it is stored: a half is its pattern.
+template <class T>
+struct storedPart {
+  using type = T;
+};
+template <>
+struct storedPart<fp16binary_t> {
+  using type = std::uint16_t;
+};
+template <class T>
+struct storedPart<std::complex<T>> : storedPart<T> {};
+
+template <class Base, class Stored>
+ZTHALF_INLINE Base asNumber(Stored x) {
+  if constexpr (std::is_same_v<Stored, std::uint16_t>) {
+    return widen<Base>(x);
+  } else if constexpr (std::is_same_v<Base, Stored>) {
+    return x;
+  } else {
+    return asDouble(x);
+  }
+}
+
+// n elements, all of them or of a complex array the parts of either kind. Of a real array im is left alone.
+template <class Base, class Element>
+struct readPass {
+  static constexpr bool isWide = true;
+  ZTHALF_INLINE static void run(void const* src, unsigned long n, Base* re, Base* im) {
+    auto const* from = static_cast<typename storedPart<Element>::type const*>(src);
+    if constexpr (isComplexElement<Element>) {
+      for (unsigned long i = 0; i < n; ++i) {
+        re[i] = asNumber<Base>(from[2 * i]);
+        im[i] = asNumber<Base>(from[2 * i + 1]);
+      }
+    } else {
+      for (unsigned long i = 0; i < n; ++i) re[i] = asNumber<Base>(from[i]);
+    }
+  }
+};
+
+// A matrix in memory, columns `leading` elements apart.
+template <class Base>
+class operand {
+ public:
+  template <class Element>
+  operand(Element const* data, unsigned long leading)
+      : data_(reinterpret_cast<char const*>(data)),
+        elementSize_(sizeof(Element)),
+        leading_(leading),
+        isReal_(!isComplexElement<Element>),
+        read_(leveled<readPass<Base, Element>, void const*, unsigned long, Base*, Base*>::chosen()) {}
+
+  // Rows i to i + rows - 1 of columns l to l + columns - 1, one column after the other without a gap. im is null in a
+  // real product; in a complex one a real operand has imaginary parts of +0.
+  void read(unsigned long i, unsigned long rows, unsigned long l, unsigned long columns, Base* re, Base* im) const {
+    if (im != nullptr && isReal_) std::memset(im, 0, rows * columns * sizeof(Base));
+    if (rows == leading_) return read_(at(i, l), rows * columns, re, im);
+    for (unsigned long j = 0; j < columns; ++j) {
+      read_(at(i, l + j), rows, re + j * rows, im == nullptr ? nullptr : im + j * rows);
+    }
+  }
+
+ private:
+  void const* at(unsigned long i, unsigned long l) const { return data_ + (i + l * leading_) * elementSize_; }
+
+  char const* data_;
+  unsigned long elementSize_;
+  unsigned long leading_;
+  bool isReal_;
+  void (*read_)(void const*, unsigned long, Base*, Base*);
+};
+
+}  // namespace zthalf::linalg
