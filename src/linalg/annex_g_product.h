@@ -32,8 +32,9 @@ inline void nanToZero(Base& x) {
   if (x != x) x = withSignOf(Base{0}, x);
 }
 
+// Not merged into its callers: it is large, and only called where a NaN came out.
 template <class Base>
-inline std::complex<Base> annexGProduct(std::complex<Base> a, std::complex<Base> b) {
+[[gnu::noinline]] std::complex<Base> annexGProduct(std::complex<Base> a, std::complex<Base> b) {
   using unit = definedUnit;
   Base p = a.real(), q = a.imag(), r = b.real(), s = b.imag();
   const Base ac = unit::product(p, r), bd = unit::product(q, s);

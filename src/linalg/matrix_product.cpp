@@ -5,6 +5,7 @@
 
 #include "linalg/micro_kernel.h"
 #include "linalg/panels.h"
+#include "linalg/result.h"
 #include "linalg/scratch.h"
 #include "linalg/settlement.h"
 
@@ -31,6 +32,8 @@ class product {
     stage_ = memory_.take<Base>(stageTotal() * parts);
     bTile_ = memory_.take<Base>(bSize() * parts);
     cTile_ = memory_.take<Base>(cSize() * parts);
+    specials_.ofRows = memory_.take<std::uint32_t>(wordCount * tileRows());
+    specials_.ofColumns = memory_.take<std::uint32_t>(wordCount * tileColumns());
   }
 
   void run() {
@@ -60,7 +63,9 @@ class product {
   unsigned long cSize() const { return cStride() * tileColumns(); }
   std::size_t bytes() const {
     return scratch::bytesFor<Base>(aSize() * parts) + scratch::bytesFor<Base>(stageTotal() * parts) +
-           scratch::bytesFor<Base>(bSize() * parts) + scratch::bytesFor<Base>(cSize() * parts);
+           scratch::bytesFor<Base>(bSize() * parts) + scratch::bytesFor<Base>(cSize() * parts) +
+           scratch::bytesFor<std::uint32_t>(wordCount * tileRows()) +
+           scratch::bytesFor<std::uint32_t>(wordCount * tileColumns());
   }
 
   Base* imaginary(Base* re, unsigned long plane) const { return isComplex ? re + plane : nullptr; }
@@ -117,10 +122,35 @@ class product {
   }
 
   void finish(unsigned long i0, unsigned long rows, unsigned long j0, unsigned long columns) {
-    const finishedTile<Base> tile{cTile_, cStride(), cSize(), rows, columns, out_ + parts * (i0 + j0 * m_), m_};
+    if (store(i0, rows, j0, columns, 0)) {
+      for (unsigned long i = 0; i < rows; i += tileSize) {
+        const unsigned long height = std::min(tileSize, rows - i);
+        if (settle(i0 + i, height, j0, columns, i)) store(i0 + i, height, j0, columns, i);
+      }
+    }
+  }
+
+  // Rounds outputs and writes them. True: there are NaNs among them.
+  bool store(unsigned long i0, unsigned long rows, unsigned long j0, unsigned long columns, unsigned long i) {
+    const finishedTile<Base> tile{cTile_ + i, cStride(), cSize(), rows, columns, out_ + parts * (i0 + j0 * m_), m_};
     bool anyNaN;
     leveled<storePass<Base, isComplex>, finishedTile<Base> const*, bool*>::chosen()(&tile, &anyNaN);
-    if (anyNaN) settleNaNs<Base, isComplex>(a_, b_, k_, i0, j0, tile);
+    return anyNaN;
+  }
+
+  bool settle(unsigned long i0, unsigned long rows, unsigned long j0, unsigned long columns, unsigned long i) {
+    const outputsOfProduct<Base> outputs{cTile_ + i, cStride(), cSize(), rows, columns, a_, b_, i0, j0, k_};
+    settlement<Base, isComplex> settling(outputs, specials_);
+    if (!settling.open()) return false;
+    for (unsigned long end = k_; end != 0;) {
+      const unsigned long l0 = (end - 1) / tileSize * tileSize, depth = end - l0;
+      a_.read(i0, rows, l0, depth, aTile_, imaginary(aTile_, aSize()));
+      b_.read(l0, depth, j0, columns, bTile_, imaginary(bTile_, bSize()));
+      if (!settling.decide({aTile_, bTile_, aSize(), bSize(), rows, columns, depth})) break;
+      end = l0;
+    }
+    settling.close();
+    return true;
   }
 
   operand<Base> const& a_;
@@ -130,6 +160,7 @@ class product {
   panelShape shape_;
   scratch memory_;
   Base *aTile_, *stage_, *bTile_, *cTile_;
+  specialIndices specials_;
 };
 
 }  // namespace

@@ -4,7 +4,6 @@
 
 #include <complex>
 #include <cstdint>
-#include <cstring>
 #include <type_traits>
 
 #include "core/float_conversion.h"
@@ -73,13 +72,7 @@ class operand {
 
   // Rows i to i + rows - 1 of columns l to l + columns - 1, one column after the other without a gap. im is null in a
   // real product; in a complex one a real operand has imaginary parts of +0.
-  void read(unsigned long i, unsigned long rows, unsigned long l, unsigned long columns, Base* re, Base* im) const {
-    if (im != nullptr && isReal_) std::memset(im, 0, rows * columns * sizeof(Base));
-    if (rows == leading_) return read_(at(i, l), rows * columns, re, im);
-    for (unsigned long j = 0; j < columns; ++j) {
-      read_(at(i, l + j), rows, re + j * rows, im == nullptr ? nullptr : im + j * rows);
-    }
-  }
+  void read(unsigned long i, unsigned long rows, unsigned long l, unsigned long columns, Base* re, Base* im) const;
 
  private:
   void const* at(unsigned long i, unsigned long l) const { return data_ + (i + l * leading_) * elementSize_; }
