@@ -4,6 +4,7 @@
 #include <complex>
 
 #include "zthalf/detail/export.h"
+#include "zthalf/half_blas.h"
 #include "zthalf/half_t.h"
 
 /// What the entries of half_ptr.h point to. The templates are declared here and instantiated in the library for the

@@ -5,6 +5,7 @@
 #include "zthalf/detail/entries_begin.h"
 #include "zthalf/detail/export.h"
 #include "zthalf/float_type.h"
+#include "zthalf/half_blas.h"
 #include "zthalf/half_extrema.h"
 
 /// Operations on arrays of half_t and std::complex<half_t>.

@@ -9,6 +9,7 @@
 #include "core/float_conversion.h"
 #include "core/instruction_level.h"
 #include "core/nan_policy.h"
+#include "linalg/scaled_half.h"
 #include "zthalf/half_t.h"
 
 namespace zthalf::linalg {
@@ -58,6 +59,15 @@ struct readPass {
   }
 };
 
+// n halves times a half, rounded to half.
+template <class Base>
+struct scaledReadPass {
+  static constexpr bool isWide = true;
+  ZTHALF_INLINE static void run(std::uint16_t const* x, unsigned long n, std::uint16_t factor, Base* to) {
+    for (unsigned long i = 0; i < n; ++i) to[i] = widen<Base>(scaledHalf(factor, x[i]));
+  }
+};
+
 // A matrix in memory, columns `leading` elements apart.
 template <class Base>
 class operand {
@@ -70,11 +80,22 @@ class operand {
         isReal_(!isComplexElement<Element>),
         read_(leveled<readPass<Base, Element>, void const*, unsigned long, Base*, Base*>::chosen()) {}
 
+  // Halves times the half `factor`, each product rounded to half.
+  operand(fp16binary_t const* data, unsigned long leading, std::uint16_t factor) requires std::is_same_v<Base, float>
+      : operand(data, leading) {
+    factor_ = factor;
+    scaled_ = leveled<scaledReadPass<Base>, std::uint16_t const*, unsigned long, std::uint16_t, Base*>::chosen();
+  }
+
   // Rows i to i + rows - 1 of columns l to l + columns - 1, one column after the other without a gap. im is null in a
   // real product; in a complex one a real operand has imaginary parts of +0.
   void read(unsigned long i, unsigned long rows, unsigned long l, unsigned long columns, Base* re, Base* im) const;
 
  private:
+  void readRun(void const* src, unsigned long n, Base* re, Base* im) const {
+    if (scaled_ == nullptr) return read_(src, n, re, im);
+    scaled_(static_cast<std::uint16_t const*>(src), n, factor_, re);
+  }
   void const* at(unsigned long i, unsigned long l) const { return data_ + (i + l * leading_) * elementSize_; }
 
   char const* data_;
@@ -82,6 +103,8 @@ class operand {
   unsigned long leading_;
   bool isReal_;
   void (*read_)(void const*, unsigned long, Base*, Base*);
+  std::uint16_t factor_ = 0;
+  void (*scaled_)(std::uint16_t const*, unsigned long, std::uint16_t, Base*) = nullptr;  // null: as they are
 };
 
 }  // namespace zthalf::linalg

@@ -72,88 +72,122 @@ Base part(std::complex<Base> z, unsigned p) {
 
 }  // namespace
 
-template <class Base, bool isComplex>
-bool settlement<Base, isComplex>::open() {
+template <class Base, bool isComplex, bool isOneChain>
+bool settlement<Base, isComplex, isOneChain>::open() {
+  using state = openPart<Base>;
   bool any = false;
-  for (unsigned p = 0; p < (isComplex ? 2 : 1); ++p) {
+  for (unsigned p = 0; p < parts; ++p) {
     for (unsigned long j = 0; j < outputs_.columns; ++j) {
-      Base* const c = outputs_.c + p * outputs_.plane + j * outputs_.column;
+      Base* const c = partsAt(0, j) + p * outputs_.plane;
       for (unsigned long i = 0; i < outputs_.rows; ++i) {
         if (c[i] == c[i]) continue;
-        c[i] = openPart<Base>::opened();
+        c[i] = state::opened();
         any = true;
+        if constexpr (isOneChain) {
+          const Base begin = outputs_.begins.at(outputs_.i0 + i, outputs_.j0 + j);
+          if (begin != begin) {
+            c[i] = state::decidedAs(begin);
+          } else if (isInfinite(begin)) {
+            c[i] = state::withMet(begin > 0 ? state::metPlus : state::metMinus);
+          }
+        }
       }
     }
   }
   return any;
 }
 
-template <class Base, bool isComplex>
-bool settlement<Base, isComplex>::decide(stretch<Base> const& s) {
-  using W = working<Base, isComplex>;
-  using state = openPart<Base>;
-  constexpr unsigned parts = isComplex ? 2 : 1;
-  leveled<specialsPass<Base, isComplex, false>, stretch<Base> const*, specialIndices const*>::chosen()(&s, &memory_);
-
+template <class Base, bool isComplex, bool isOneChain>
+bool settlement<Base, isComplex, isOneChain>::decide(stretch<Base> const& s) {
+  leveled<specialsPass<Base, isComplex, isOneChain>, stretch<Base> const*, specialIndices const*>::chosen()(&s,
+                                                                                                            &memory_);
   bool anyOpen = false;
   for (unsigned long j = 0; j < s.columns; ++j) {
-    std::uint32_t const* const ofColumn = memory_.ofColumns + j * wordCount;
     for (unsigned long i = 0; i < s.rows; ++i) {
-      Base* out[parts];
       bool isOpen = false;
-      for (unsigned p = 0; p < parts; ++p) {
-        out[p] = outputs_.c + p * outputs_.plane + i + j * outputs_.column;
-        isOpen |= state::isOpen(*out[p]);
-      }
+      for (unsigned p = 0; p < parts; ++p) isOpen |= openPart<Base>::isOpen(partsAt(i, j)[p * outputs_.plane]);
       if (!isOpen) continue;
-      for (unsigned lane = wordCount; isOpen && lane-- > 0;) {
-        std::uint32_t bits = memory_.ofRows[lane * s.rows + i] | ofColumn[lane];
-        if (bits == 0) continue;
-        chainEnd<Base> end[parts];
-        for (; bits != 0; bits &= bits - 1) {
-          const unsigned long l = placeOf<false>::index(lane, static_cast<unsigned long>(std::countr_zero(bits)));
-          const W a = elementAt(s.a + i + l * s.rows, s.aPlane, static_cast<W*>(nullptr));
-          const W b = elementAt(s.b + l + j * s.depth, s.bPlane, static_cast<W*>(nullptr));
-          if (isLarge(a) || isLarge(b)) {
-            const W c = definedOutput<W>(outputs_, i, j);
-            for (unsigned p = 0; p < parts; ++p) {
-              const Base x = part(c, p);
-              *out[p] = x != x ? state::decidedAs(x) : x;
-            }
-            isOpen = false;
-            break;
-          }
-          const W product = half::impl::emulated::steps::product(a, b);
-          bool allNaN = true;
-          for (unsigned p = 0; p < parts; ++p) {
-            end[p].add(part(product, p));
-            allNaN = allNaN && end[p].isNaN();
-          }
-          if (allNaN) break;
-        }
-        if (!isOpen) break;
-        isOpen = false;
-        for (unsigned p = 0; p < parts; ++p) {
-          if (!state::isOpen(*out[p])) continue;
-          if (end[p].isNaN()) {
-            *out[p] = state::decidedAs(end[p].value);
-            continue;
-          }
-          isOpen = true;
-          *out[p] = state::withMet(state::met(*out[p]) | (end[p].value > 0 ? state::metPlus : state::metMinus));
-        }
+      if constexpr (isOneChain) {
+        anyOpen |= decideChain(s, i, j);
+      } else {
+        anyOpen |= decideLanes(s, i, j);
       }
-      anyOpen |= isOpen;
     }
   }
   return anyOpen;
 }
 
-template <class Base, bool isComplex>
-void settlement<Base, isComplex>::close() {
-  for (unsigned p = 0; p < (isComplex ? 2 : 1); ++p) {
+// The lanes of a stretch, the last one first; true while a part is open.
+template <class Base, bool isComplex, bool isOneChain>
+bool settlement<Base, isComplex, isOneChain>::decideLanes(stretch<Base> const& s, unsigned long i, unsigned long j) {
+  using W = working<Base, isComplex>;
+  using state = openPart<Base>;
+  Base* const out = partsAt(i, j);
+  for (unsigned lane = wordCount; lane-- > 0;) {
+    std::uint32_t bits = memory_.ofRows[lane * s.rows + i] | memory_.ofColumns[j * wordCount + lane];
+    if (bits == 0) continue;
+    chainEnd<Base> end[parts];
+    for (bool allNaN = false; bits != 0 && !allNaN; bits &= bits - 1) {
+      const unsigned long l = placeOf<false>::index(lane, static_cast<unsigned long>(std::countr_zero(bits)));
+      const W a = elementAt(s.a + i + l * s.rows, s.aPlane, static_cast<W*>(nullptr));
+      const W b = elementAt(s.b + l + j * s.depth, s.bPlane, static_cast<W*>(nullptr));
+      if (isLarge(a) || isLarge(b)) {
+        const W c = definedOutput<W>(outputs_, i, j);
+        for (unsigned p = 0; p < parts; ++p) {
+          const Base x = part(c, p);
+          out[p * outputs_.plane] = x != x ? state::decidedAs(x) : x;
+        }
+        return false;
+      }
+      const W product = half::impl::emulated::steps::product(a, b);
+      allNaN = true;
+      for (unsigned p = 0; p < parts; ++p) {
+        end[p].add(part(product, p));
+        allNaN = allNaN && end[p].isNaN();
+      }
+    }
+    bool isOpen = false;
+    for (unsigned p = 0; p < parts; ++p) {
+      Base& x = out[p * outputs_.plane];
+      if (!state::isOpen(x)) continue;
+      if (end[p].isNaN()) {
+        x = state::decidedAs(end[p].value);
+      } else {
+        x = state::withMet(state::met(x) | (end[p].value > 0 ? state::metPlus : state::metMinus));
+        isOpen = true;
+      }
+    }
+    if (!isOpen) return false;
+  }
+  return true;
+}
+
+// The next stretch of a chain of products of halves.
+template <class Base, bool isComplex, bool isOneChain>
+bool settlement<Base, isComplex, isOneChain>::decideChain(stretch<Base> const& s, unsigned long i, unsigned long j) {
+  using state = openPart<Base>;
+  Base& out = *partsAt(i, j);
+  chainEnd<Base> end;
+  if (state::met(out) != 0) end.add(state::closed(out));
+  for (unsigned word = 0; word < wordCount; ++word) {
+    std::uint32_t bits = memory_.ofRows[word * s.rows + i] | memory_.ofColumns[j * wordCount + word];
+    for (; bits != 0; bits &= bits - 1) {
+      const unsigned long l = placeOf<true>::index(word, static_cast<unsigned long>(std::countr_zero(bits)));
+      end.add(definedUnit::product(s.a[i + l * s.rows], s.b[l + j * s.depth]));
+      if (!end.isNaN()) continue;
+      out = state::decidedAs(end.value);
+      return false;
+    }
+  }
+  if (end.value != 0) out = state::withMet(end.value > 0 ? state::metPlus : state::metMinus);
+  return true;
+}
+
+template <class Base, bool isComplex, bool isOneChain>
+void settlement<Base, isComplex, isOneChain>::close() {
+  for (unsigned p = 0; p < parts; ++p) {
     for (unsigned long j = 0; j < outputs_.columns; ++j) {
-      Base* const c = outputs_.c + p * outputs_.plane + j * outputs_.column;
+      Base* const c = partsAt(0, j) + p * outputs_.plane;
       for (unsigned long i = 0; i < outputs_.rows; ++i) {
         if (openPart<Base>::isOpen(c[i])) c[i] = openPart<Base>::closed(c[i]);
       }
@@ -161,9 +195,10 @@ void settlement<Base, isComplex>::close() {
   }
 }
 
-template class settlement<float, false>;
-template class settlement<double, false>;
-template class settlement<float, true>;
-template class settlement<double, true>;
+template class settlement<float, false, false>;
+template class settlement<double, false, false>;
+template class settlement<float, true, false>;
+template class settlement<double, true, false>;
+template class settlement<float, false, true>;
 
 }  // namespace zthalf::linalg

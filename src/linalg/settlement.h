@@ -11,6 +11,7 @@
 
 #include <cstdint>
 
+#include "linalg/chain_begins.h"
 #include "linalg/operand.h"
 #include "linalg/tiles.h"
 
@@ -43,17 +44,18 @@ struct outputsOfProduct {
   unsigned long rows, columns;
   operand<Base> const& a;
   operand<Base> const& b;
+  chainBegins begins;  // without lanes
   unsigned long i0, j0, k;
 };
 
 // Replaces NaNs among outputs by what they should be, a stretch at a time: of a product with lanes the last one first,
-// since the last lane's NaN is what an output keeps.
-template <class Base, bool isComplex>
+// since the last lane's NaN is what an output keeps; of one without lanes the first one first.
+template <class Base, bool isComplex, bool isOneChain>
 class settlement {
  public:
   settlement(outputsOfProduct<Base> const& outputs, specialIndices memory) : outputs_(outputs), memory_(memory) {}
 
-  // Marks the NaNs as open. False: there are none.
+  // Marks the NaNs as open. False: there are none. A chain that begins with a NaN is decided.
   bool open();
   // Decides what can be. False: nothing is open any more.
   bool decide(stretch<Base> const& s);
@@ -61,6 +63,12 @@ class settlement {
   void close();
 
  private:
+  static constexpr unsigned parts = isComplex ? 2 : 1;
+
+  bool decideLanes(stretch<Base> const& s, unsigned long i, unsigned long j);
+  bool decideChain(stretch<Base> const& s, unsigned long i, unsigned long j);
+  Base* partsAt(unsigned long i, unsigned long j) { return outputs_.c + i + j * outputs_.column; }
+
   outputsOfProduct<Base> outputs_;
   specialIndices memory_;
 };

@@ -36,6 +36,22 @@ using ternary_entry = void(A*, B*, C*, Out*,                                    
 template <class Left, class Right, class Out>
 using product_entry = void(Left*, Right*, Out*, unsigned long, unsigned long, unsigned long);
 
+// The routines after BLAS and LAPACK; half_blas.h names the parameters.
+template <class Half>
+using hgemm_entry = void(char*, char*, unsigned long, unsigned long, unsigned long, Half, Half*, unsigned long, Half*,
+                         unsigned long, Half, Half*, unsigned long);
+template <class Half>
+using hscal_entry = void(unsigned long, Half, Half*, unsigned long);
+template <class Half>
+using ihamax_entry = unsigned long(unsigned long, Half*, unsigned long);
+template <class Half>
+using hlaswp_entry = void(unsigned long, Half*, unsigned long, unsigned long, unsigned long, unsigned long*, int);
+template <class Half>
+using htrsm_entry = void(char*, char*, char*, char*, unsigned long, unsigned long, Half, Half*, unsigned long, Half*,
+                         unsigned long);
+template <class Half>
+using hgetrf_entry = void(unsigned long, unsigned long, Half*, unsigned long, unsigned long*, int&);
+
 // The index of the result beside it; the last flag is whether it counts in the whole array.
 template <class In, class Out>
 using indexed_whole_entry = void(In*, Out*, double*, unsigned long);
