@@ -1,15 +1,25 @@
 #!/usr/bin/env python3
-"""Replays a sum, product or mean of halves: which values meet in which order, and what each step rounds to.
+"""Replays a sum, product or mean of halves, or an element of a matrix product or triangular solve: which values meet in
+which order, and what each step rounds to.
 
   tools/replay.py --shape 1000 --form whole --accumulator half FILE
   tools/replay.py --shape 4x3 --form column --accumulator single --op mean --omit-nan FILE
+  tools/replay.py --op mtimes ROW COLUMN
+  tools/replay.py --op hgemm --options N --alpha -1 --beta 1 --c 0x3C00 ROW COLUMN
+  tools/replay.py --op htrsm --options LLNU --alpha 1 A VECTOR
 
 FILE ('-' for standard input) holds the elements in memory order, separated by white space: patterns such as 0x3C00, or
 numbers, which are rounded to half. --shape gives the dimensions, the first one fastest in memory, reduced and kept ones
 by turns: --form column reduces the first one, --form row keeps it, --form whole reduces the only one. Prints for each
 output its tree or chain with the value of every part, and the result; with --results the results alone, as patterns.
 
-The model is written to be read. docs/reductions.md tells the same in words.
+mtimes: the output of a ROW of the left operand and a COLUMN of the right one, each a file of as many elements. --left and
+--right say what they are made of (half, single, double); an element with a comma, such as 1,-2, is a complex number.
+hgemm: the same with the element of c; options is transa, and for T the row is the stretch of a that hgemm takes for it.
+htrsm: A is the triangular matrix by columns, VECTOR the column of B (side L) or the row of B (side R); options are side,
+uplo, transa and diag.
+
+The model is written to be read. docs/reductions.md and docs/linear-algebra.md tell the same in words.
 """
 import argparse
 import math
@@ -63,7 +73,7 @@ def settled(operation, first, second):
 
 def divided(x, y):
     if y == 0:
-        return math.nan if x == 0 else math.copysign(math.inf, x)
+        return math.nan if x == 0 else math.copysign(math.inf, x) * math.copysign(1, y)
     return x / y
 
 
@@ -198,16 +208,73 @@ def element(word):
     return DEFAULT_NAN if math.isnan(value) else rounded(value, 'e')
 
 
+def number(word, code):
+    """An element of the given type, in the working type's terms: a pair if it has a comma."""
+    if ',' in word:
+        return tuple(number(part, code) for part in word.split(','))
+    if code == 'e':
+        return element(word)
+    return rounded(DEFAULT_NAN if math.isnan(float(word)) else float(word), code)
+
+
+def numbers(path, code):
+    with (sys.stdin if path == '-' else open(path)) as source:
+        return [number(word, code) for word in source.read().split()]
+
+
+def replayed_element(wanted, error, show):
+    """The results of mtimes, hgemm and htrsm."""
+    import replay_products as products
+    codes = {'half': 'e', 'single': 'f', 'double': 'd'}
+    first = numbers(wanted.file, codes[wanted.left])
+    second = numbers(wanted.second, codes[wanted.right])
+    alpha, beta, c = (element(word) for word in (wanted.alpha, wanted.beta, wanted.c))
+    letters = [letter.lower() for letter in wanted.options]
+    if wanted.op == 'htrsm':
+        if len(letters) != 4 or len(first) != len(second) ** 2:
+            error('htrsm takes four options, and a matrix of the vector\'s order')
+        if alpha == 0:
+            return [0.0] * len(second)
+        left, upper, plain, diagonal = (letter == true for letter, true in zip(letters, 'lunn'))
+        solved = products.triangular_vector(left, upper, plain, diagonal, alpha, first, len(second), second, show)
+        return [rounded(x, 'e') for x in solved]
+    if len(first) != len(second):
+        error('row and column have different lengths')
+    if wanted.op == 'hgemm':
+        return [rounded(products.hgemm_element(letters[:1] != ['n'], first, second, alpha, beta, c, show), 'e')]
+    code = 'd' if 'double' in (wanted.left, wanted.right) else 'f'
+    if any(isinstance(x, tuple) and not is_nan(x) for x in first + second):
+        zero = (0.0, 0.0)
+        first, second = ([x if isinstance(x, tuple) and not is_nan(x) else (x, 0.0) for x in side]
+                         for side in (first, second))
+        return [rounded(x, 'e') for x in products.product_element(products.ComplexUnit(code), zero, first, second, show)]
+    return [rounded(products.product_element(products.Unit(code), 0.0, first, second, show), 'e')]
+
+
 def main():
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
-    parser.add_argument('--shape', required=True, help='sizes joined by x, first dimension fastest: 4x3')
+    parser.add_argument('--shape', help='sizes joined by x, first dimension fastest: 4x3')
     parser.add_argument('--form', choices=('whole', 'column', 'row'), default='whole')
     parser.add_argument('--accumulator', choices=('half', 'single', 'double'), default='half')
-    parser.add_argument('--op', choices=('sum', 'prod', 'mean'), default='sum')
+    parser.add_argument('--op', choices=('sum', 'prod', 'mean', 'mtimes', 'hgemm', 'htrsm'), default='sum')
     parser.add_argument('--omit-nan', action='store_true')
     parser.add_argument('--results', action='store_true', help='print the results alone, as patterns')
+    parser.add_argument('--left', choices=('half', 'single', 'double'), default='half')
+    parser.add_argument('--right', choices=('half', 'single', 'double'), default='half')
+    parser.add_argument('--options', default='N')
+    parser.add_argument('--alpha', default='1')
+    parser.add_argument('--beta', default='0')
+    parser.add_argument('--c', default='0')
     parser.add_argument('file')
+    parser.add_argument('second', nargs='?')
     wanted = parser.parse_args()
+    show = (lambda line: None) if wanted.results else print
+    if wanted.op in ('mtimes', 'hgemm', 'htrsm'):
+        if wanted.second is None:
+            parser.error('%s takes two files' % wanted.op)
+        return tell(replayed_element(wanted, parser.error, show), 'e', wanted.results)
+    if wanted.shape is None or wanted.second is not None:
+        parser.error('a reduction takes a --shape and one file')
     dims = [int(size) for size in wanted.shape.split('x')]
     with (sys.stdin if wanted.file == '-' else open(wanted.file)) as source:
         elements = [element(word) for word in source.read().split()]
@@ -216,10 +283,12 @@ def main():
     if wanted.form == 'whole' and len(dims) != 1 or wanted.form == 'column' and len(dims) < 2:
         parser.error('a whole array has one dimension, the column form two at least')
     r = Reduction(wanted.op, wanted.accumulator, wanted.omit_nan)
-    code = 'd' if wanted.accumulator == 'double' else 'e'
-    show = (lambda line: None) if wanted.results else print
-    for output, result in enumerate(reduced(r, elements, dims, wanted.form, show)):
-        if wanted.results:
+    tell(reduced(r, elements, dims, wanted.form, show), 'd' if wanted.accumulator == 'double' else 'e', wanted.results)
+
+
+def tell(results, code, patterns_alone):
+    for output, result in enumerate(results):
+        if patterns_alone:
             print(hexadecimal(result, code))
         else:
             shown = ('-NaN' if result.negative else 'NaN') if is_nan(result) else repr(result)
@@ -227,4 +296,5 @@ def main():
 
 
 if __name__ == '__main__':
+    sys.modules['replay'] = sys.modules['__main__']  # the models of products use this module's numbers
     main()
