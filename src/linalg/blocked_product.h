@@ -71,7 +71,8 @@ class blockedProduct {
   unsigned long stageTotal() const { return isOnePanel() ? 0 : std::max(stageSize, tileRows()) + shape_.rows; }
   unsigned long bSize() const { return tileDepth() * tileColumns(); }
   unsigned long cStride() const { return roundedUp(std::min(m_, blockRows), shape_.width); }
-  unsigned long cSize() const { return cStride() * tileColumns(); }
+  // Behind the last column a chunk may reach over the end.
+  unsigned long cSize() const { return cStride() * tileColumns() + chunkSize; }
   std::size_t bytes() const {
     return scratch::bytesFor<Base>(aSize() * parts) + scratch::bytesFor<Base>(stageTotal() * parts) +
            scratch::bytesFor<Base>(bSize() * parts) + scratch::bytesFor<Base>(cSize() * parts) +

@@ -2,7 +2,9 @@
 #include <algorithm>
 
 #include "linalg/blas_impl.h"
+#include "linalg/operand.h"
 #include "linalg/options.h"
+#include "linalg/result.h"
 #include "linalg/scratch.h"
 #include "linalg/triangular_solve.h"
 
@@ -12,69 +14,81 @@ namespace {
 
 using namespace zthalf::linalg;
 
-// A matrix of patterns, and the rectangle of it that is meant.
-struct patternMatrix {
-  unsigned short* data;
-  unsigned long leading;
-  unsigned short& at(unsigned long i, unsigned long j) const { return data[i + j * leading]; }
-};
+fp16binary_t const* halves(unsigned short const* patterns) { return reinterpret_cast<fp16binary_t const*>(patterns); }
 
-// B's vectors in strips: rows where A is on the left, columns where it is on the right. The last strip is filled with
-// copies of its last element.
+// B's vectors in strips: rows where A is on the left, columns where it is on the right. The last strip is filled up
+// with zeros, which no solve turns into anything but zeros or NaNs that nobody looks at.
 class strips {
  public:
-  strips(patternMatrix b, unsigned long m, unsigned long n, bool areRows, float* memory)
-      : b_(b), order_(areRows ? m : n), across_(areRows ? n : m), areRows_(areRows), memory_(memory) {}
+  // columnMemory has room for a column of B and a chunk.
+  strips(unsigned short* b, unsigned long ldb, unsigned long m, unsigned long n, bool areRows, float* memory,
+         float* columnMemory)
+      : b_(b),
+        ldb_(ldb),
+        source_(halves(b), ldb),
+        order_(areRows ? m : n),
+        across_(areRows ? n : m),
+        areRows_(areRows),
+        memory_(memory),
+        column_(columnMemory) {}
 
   static unsigned long countFor(unsigned long across) { return (across + stripWidth - 1) / stripWidth; }
 
   float* strip(unsigned long s) const { return memory_ + s * order_ * stripWidth; }
 
   void read(unsigned long s) const {
-    visit(s, [](unsigned short const& pattern, float& x) { x = zthalf::widen<float>(pattern); });
-    const unsigned long used = std::min(stripWidth, across_ - s * stripWidth);
-    for (unsigned long v = 0; v < order_; ++v) {
-      float* const x = strip(s) + v * stripWidth;
-      std::fill(x + used, x + stripWidth, x[used - 1]);
+    float* const x = strip(s);
+    const unsigned long begin = s * stripWidth, used = usedOf(s);
+    if (used < stripWidth) std::fill_n(x, order_ * stripWidth, 0.0f);
+    if (areRows_) {
+      for (unsigned long e = 0; e < used; ++e) {
+        source_.read(0, order_, begin + e, 1, column_, nullptr);
+        for (unsigned long v = 0; v < order_; ++v) x[e + v * stripWidth] = column_[v];
+      }
+    } else {
+      for (unsigned long v = 0; v < order_; ++v) source_.read(begin, used, v, 1, x + v * stripWidth, nullptr);
     }
   }
+
   void write(unsigned long s) const {
-    visit(s, [](unsigned short& pattern, float& x) { pattern = zthalf::narrow(x); });
+    float* const x = strip(s);
+    const unsigned long begin = s * stripWidth, used = usedOf(s);
+    if (areRows_) {
+      for (unsigned long e = 0; e < used; ++e) {
+        for (unsigned long v = 0; v < order_; ++v) column_[v] = x[e + v * stripWidth];
+        round({column_, 0, 0, order_, 1, b_ + (begin + e) * ldb_, ldb_});
+      }
+    } else {
+      round({x, stripWidth, 0, used, order_, b_ + begin, ldb_});
+    }
   }
 
  private:
-  // Along the columns of B, as they lie in memory.
-  template <class Visit>
-  void visit(unsigned long s, Visit move) const {
-    float* const x = strip(s);
-    const unsigned long begin = s * stripWidth, used = std::min(stripWidth, across_ - begin);
-    if (areRows_) {
-      for (unsigned long e = 0; e < used; ++e) {
-        for (unsigned long v = 0; v < order_; ++v) move(b_.at(v, begin + e), x[e + v * stripWidth]);
-      }
-    } else {
-      for (unsigned long v = 0; v < order_; ++v) {
-        for (unsigned long e = 0; e < used; ++e) move(b_.at(begin + e, v), x[e + v * stripWidth]);
-      }
-    }
+  unsigned long usedOf(unsigned long s) const { return std::min(stripWidth, across_ - s * stripWidth); }
+
+  static void round(finishedTile<float> const& tile) {
+    bool anyNaN;
+    zthalf::leveled<storePass<float, false>, finishedTile<float> const*, bool*>::chosen()(&tile, &anyNaN);
   }
 
-  patternMatrix b_;
+  unsigned short* b_;
+  unsigned long ldb_;
+  operand<float> source_;
   unsigned long order_, across_;
   bool areRows_;
   float* memory_;
+  float* column_;
 };
 
-// A, widened; transposed where coefficients of one vector lie in a row of it.
-void readCoefficients(patternMatrix a, unsigned long order, bool transposed, float* to) {
+// A, widened; transposed where coefficients of one vector lie in a row of it. In blocks that fit the first-level cache.
+void readCoefficients(operand<float> const& a, unsigned long order, bool transposed, float* to, float* column) {
+  if (!transposed) return a.read(0, order, 0, order, to, nullptr);
   constexpr unsigned long side = 32;
-  for (unsigned long j0 = 0; j0 < order; j0 += side) {
-    for (unsigned long i0 = 0; i0 < order; i0 += side) {
-      for (unsigned long j = j0; j < std::min(j0 + side, order); ++j) {
-        for (unsigned long i = i0; i < std::min(i0 + side, order); ++i) {
-          to[transposed ? j + i * order : i + j * order] = zthalf::widen<float>(a.at(i, j));
-        }
-      }
+  for (unsigned long i0 = 0; i0 < order; i0 += side) {
+    const unsigned long rows = std::min(side, order - i0);
+    for (unsigned long j = 0; j < order; ++j) {
+      a.read(i0, rows, j, 1, column, nullptr);
+      for (unsigned long i = 0; i < rows; ++i) to[j + (i0 + i) * order] = column[i];
     }
   }
 }
@@ -94,18 +108,20 @@ void htrsm(char* side, char* uplo, char* transa, char* diag, unsigned long m, un
            unsigned short* a, unsigned long lda, unsigned short* b, unsigned long ldb) {
   if (m == 0 || n == 0) return;
   const bool isLeft = isOption(side, 'l'), isUpper = isOption(uplo, 'u'), isPlain = isOption(transa, 'n');
-  const patternMatrix matrixB{b, ldb};
   if (zthalf::pattern::isZero(alpha)) {
     for (unsigned long j = 0; j < n; ++j) std::fill_n(b + j * ldb, m, zthalf::pattern::zero);
     return;
   }
   const unsigned long order = isLeft ? m : n, across = isLeft ? n : m, count = strips::countFor(across);
-  scratch memory(scratch::bytesFor<float>(order * order) + scratch::bytesFor<float>(count * order * stripWidth) +
-                 scratch::bytesFor<std::uint32_t>(order * stripWidth));
+  const unsigned long columnSize = std::max(order, stripWidth) + chunkSize, stripsSize = count * order * stripWidth;
+  scratch memory(scratch::bytesFor<float>(order * order) + scratch::bytesFor<float>(stripsSize) +
+                 scratch::bytesFor<float>(columnSize) + scratch::bytesFor<std::uint32_t>(order * stripWidth));
   float* const coefficients = memory.take<float>(order * order);
-  const strips columns(matrixB, m, n, isLeft, memory.take<float>(count * order * stripWidth));
+  float* const stripMemory = memory.take<float>(stripsSize);
+  float* const column = memory.take<float>(columnSize);
   std::uint32_t* const present = memory.take<std::uint32_t>(order * stripWidth);
-  readCoefficients({a, lda}, order, isLeft == isPlain, coefficients);
+  const strips columns(b, ldb, m, n, isLeft, stripMemory, column);
+  readCoefficients(operand<float>(halves(a), lda), order, isLeft == isPlain, coefficients, column);
   for (unsigned long s = 0; s < count; ++s) columns.read(s);
 
   const bool isScaled = alpha != zthalf::pattern::one;

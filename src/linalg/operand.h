@@ -9,6 +9,7 @@
 #include "core/float_conversion.h"
 #include "core/instruction_level.h"
 #include "core/nan_policy.h"
+#include "linalg/chunks.h"
 #include "linalg/scaled_half.h"
 #include "zthalf/half_t.h"
 
@@ -49,12 +50,23 @@ struct readPass {
   ZTHALF_INLINE static void run(void const* src, unsigned long n, Base* re, Base* im) {
     auto const* from = static_cast<typename storedPart<Element>::type const*>(src);
     if constexpr (isComplexElement<Element>) {
-      for (unsigned long i = 0; i < n; ++i) {
-        re[i] = asNumber<Base>(from[2 * i]);
-        im[i] = asNumber<Base>(from[2 * i + 1]);
-      }
+      forEachChunk<2>(from, n, [=](auto const* parts, unsigned long at, unsigned long count) {
+        Base real[chunkSize], imaginary[chunkSize];
+        for (unsigned long i = 0; i < chunkSize; ++i) {
+          real[i] = asNumber<Base>(parts[2 * i]);
+          imaginary[i] = asNumber<Base>(parts[2 * i + 1]);
+        }
+        keepChunk(re + at, real, count);
+        keepChunk(im + at, imaginary, count);
+      });
+    } else if constexpr (std::is_same_v<Base, Element>) {
+      std::memcpy(re, from, n * sizeof(Base));
     } else {
-      for (unsigned long i = 0; i < n; ++i) re[i] = asNumber<Base>(from[i]);
+      forEachChunk<1>(from, n, [=](auto const* numbers, unsigned long at, unsigned long count) {
+        Base real[chunkSize];
+        for (unsigned long i = 0; i < chunkSize; ++i) real[i] = asNumber<Base>(numbers[i]);
+        keepChunk(re + at, real, count);
+      });
     }
   }
 };
@@ -64,7 +76,11 @@ template <class Base>
 struct scaledReadPass {
   static constexpr bool isWide = true;
   ZTHALF_INLINE static void run(std::uint16_t const* x, unsigned long n, std::uint16_t factor, Base* to) {
-    for (unsigned long i = 0; i < n; ++i) to[i] = widen<Base>(scaledHalf(factor, x[i]));
+    forEachChunk<1>(x, n, [=](std::uint16_t const* halves, unsigned long at, unsigned long count) {
+      Base scaled[chunkSize];
+      for (unsigned long i = 0; i < chunkSize; ++i) scaled[i] = widen<Base>(scaledHalf(factor, halves[i]));
+      keepChunk(to + at, scaled, count);
+    });
   }
 };
 

@@ -1,10 +1,12 @@
 // The result of a product: numbers of the working type, rounded to half once and stored.
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 
 #include "core/float_conversion.h"
 #include "core/instruction_level.h"
+#include "linalg/chunks.h"
 
 namespace zthalf::linalg {
 
@@ -21,31 +23,29 @@ struct finishedTile {
   unsigned long leading;
 };
 
-// *anyNaN is set where a NaN is among the outputs: its sign is not decided yet.
+// *anyNaN is set where there may be a NaN among the outputs, whose sign is not decided yet. Columns must be readable up
+// to the next whole chunk, which is looked at, too.
 template <class Base, bool isComplex>
 struct storePass {
   static constexpr bool isWide = true;
+  static constexpr unsigned parts = isComplex ? 2 : 1;
 
   ZTHALF_INLINE static void run(finishedTile<Base> const* tile, bool* anyNaN) {
     finishedTile<Base> const t = *tile;
     std::uint16_t nan = 0;
     for (unsigned long j = 0; j < t.columns; ++j) {
       Base const* const from = t.numbers + j * t.column;
-      if constexpr (isComplex) {
-        std::uint16_t* const to = t.out + 2 * j * t.leading;
-        for (unsigned long i = 0; i < t.rows; ++i) {
-          const std::uint16_t re = narrow(from[i]), im = narrow(from[t.plane + i]);
-          to[2 * i] = re;
-          to[2 * i + 1] = im;
-          nan |= pattern::nanMask(re) | pattern::nanMask(im);
+      std::uint16_t* const to = t.out + parts * j * t.leading;
+      for (unsigned long at = 0; at < t.rows; at += chunkSize) {
+        std::uint16_t chunk[parts * chunkSize];
+        for (unsigned long i = 0; i < chunkSize; ++i) {
+          for (unsigned p = 0; p < parts; ++p) {
+            const std::uint16_t h = narrow(from[p * t.plane + at + i]);
+            chunk[parts * i + p] = h;
+            nan |= pattern::nanMask(h);
+          }
         }
-      } else {
-        std::uint16_t* const to = t.out + j * t.leading;
-        for (unsigned long i = 0; i < t.rows; ++i) {
-          const std::uint16_t h = narrow(from[i]);
-          to[i] = h;
-          nan |= pattern::nanMask(h);
-        }
+        keepChunk(to + parts * at, chunk, std::min(chunkSize, t.rows - at), parts);
       }
     }
     *anyNaN = nan != 0;
