@@ -40,6 +40,7 @@ class blockedProduct {
     stage_ = memory_.take<Base>(stageTotal() * parts);
     bTile_ = memory_.take<Base>(bSize() * parts);
     cTile_ = memory_.take<Base>(cSize() * parts);
+    together_ = memory_.take<Base>(togetherSize() * parts);
     specials_.ofRows = memory_.take<std::uint32_t>(wordCount * tileRows());
     specials_.ofColumns = memory_.take<std::uint32_t>(wordCount * tileColumns());
     if constexpr (isOneChain) out_ = memory_.take<std::uint16_t>(m_ * n_);
@@ -63,20 +64,25 @@ class blockedProduct {
   unsigned long tileDepth() const { return std::min(k_, tileSize); }
   unsigned long tileColumns() const { return std::min(n_, tileSize); }
   bool isOnePanel() const { return m_ <= shape_.rows; }
+  bool isLow() const { return m_ < chunkSize; }
 
   // A single panel stays as it was read; behind its last column a vector may reach over the end.
   unsigned long aSize() const {
-    return isOnePanel() ? m_ * tileDepth() + shape_.rows : roundedUp(tileRows(), shape_.rows) * tileDepth();
+    return chunkSize +
+           (isOnePanel() ? m_ * tileDepth() + shape_.rows : roundedUp(tileRows(), shape_.rows) * tileDepth());
   }
-  unsigned long stageTotal() const { return isOnePanel() ? 0 : std::max(stageSize, tileRows()) + shape_.rows; }
-  unsigned long bSize() const { return tileDepth() * tileColumns(); }
+  unsigned long stageTotal() const {
+    return isOnePanel() ? 0 : std::max(stageSize, tileRows()) + shape_.rows + chunkSize;
+  }
+  unsigned long bSize() const { return tileDepth() * tileColumns() + chunkSize; }
   unsigned long cStride() const { return roundedUp(std::min(m_, blockRows), shape_.width); }
   // Behind the last column a chunk may reach over the end.
   unsigned long cSize() const { return cStride() * tileColumns() + chunkSize; }
+  unsigned long togetherSize() const { return isLow() ? m_ * tileColumns() + chunkSize : 0; }
   std::size_t bytes() const {
     return scratch::bytesFor<Base>(aSize() * parts) + scratch::bytesFor<Base>(stageTotal() * parts) +
            scratch::bytesFor<Base>(bSize() * parts) + scratch::bytesFor<Base>(cSize() * parts) +
-           scratch::bytesFor<std::uint32_t>(wordCount * tileRows()) +
+           scratch::bytesFor<Base>(togetherSize() * parts) + scratch::bytesFor<std::uint32_t>(wordCount * tileRows()) +
            scratch::bytesFor<std::uint32_t>(wordCount * tileColumns()) +
            (isOneChain ? scratch::bytesFor<std::uint16_t>(m_ * n_) : 0);
   }
@@ -154,9 +160,23 @@ class blockedProduct {
     }
   }
 
+  // Columns shorter than a chunk are rounded as one.
+  void pushTogether(unsigned long columns) {
+    for (unsigned p = 0; p < parts; ++p) {
+      for (unsigned long j = 0; j < columns; ++j) {
+        std::memcpy(together_ + p * togetherSize() + j * m_, cTile_ + p * cSize() + j * cStride(),
+                    chunkSize * sizeof(Base));
+      }
+    }
+  }
+
   // Rounds outputs and writes them. True: there are NaNs among them.
   bool store(unsigned long i0, unsigned long rows, unsigned long j0, unsigned long columns, unsigned long i) {
-    const finishedTile<Base> tile{cTile_ + i, cStride(), cSize(), rows, columns, out_ + parts * (i0 + j0 * m_), m_};
+    finishedTile<Base> tile{cTile_ + i, cStride(), cSize(), rows, columns, out_ + parts * (i0 + j0 * m_), m_};
+    if (isLow()) {
+      pushTogether(columns);
+      tile = {together_, 0, togetherSize(), rows * columns, 1, tile.out, 0};
+    }
     bool anyNaN;
     leveled<storePass<Base, isComplex>, finishedTile<Base> const*, bool*>::chosen()(&tile, &anyNaN);
     return anyNaN;
@@ -184,7 +204,7 @@ class blockedProduct {
   unsigned long m_, k_, n_;
   panelShape shape_;
   scratch memory_;
-  Base *aTile_, *stage_, *bTile_, *cTile_;
+  Base *aTile_, *stage_, *bTile_, *cTile_, *together_;
   specialIndices specials_;
 };
 

@@ -50,22 +50,22 @@ struct readPass {
   ZTHALF_INLINE static void run(void const* src, unsigned long n, Base* re, Base* im) {
     auto const* from = static_cast<typename storedPart<Element>::type const*>(src);
     if constexpr (isComplexElement<Element>) {
-      forEachChunk<2>(from, n, [=](auto const* parts, unsigned long at, unsigned long count) {
+      forEachChunk<2>(from, n, [=](auto const* parts, unsigned long at) {
         Base real[chunkSize], imaginary[chunkSize];
         for (unsigned long i = 0; i < chunkSize; ++i) {
           real[i] = asNumber<Base>(parts[2 * i]);
           imaginary[i] = asNumber<Base>(parts[2 * i + 1]);
         }
-        keepChunk(re + at, real, count);
-        keepChunk(im + at, imaginary, count);
+        keepWholeChunk(re + at, real);
+        keepWholeChunk(im + at, imaginary);
       });
     } else if constexpr (std::is_same_v<Base, Element>) {
       std::memcpy(re, from, n * sizeof(Base));
     } else {
-      forEachChunk<1>(from, n, [=](auto const* numbers, unsigned long at, unsigned long count) {
+      forEachChunk<1>(from, n, [=](auto const* numbers, unsigned long at) {
         Base real[chunkSize];
         for (unsigned long i = 0; i < chunkSize; ++i) real[i] = asNumber<Base>(numbers[i]);
-        keepChunk(re + at, real, count);
+        keepWholeChunk(re + at, real);
       });
     }
   }
@@ -76,10 +76,10 @@ template <class Base>
 struct scaledReadPass {
   static constexpr bool isWide = true;
   ZTHALF_INLINE static void run(std::uint16_t const* x, unsigned long n, std::uint16_t factor, Base* to) {
-    forEachChunk<1>(x, n, [=](std::uint16_t const* halves, unsigned long at, unsigned long count) {
+    forEachChunk<1>(x, n, [=](std::uint16_t const* halves, unsigned long at) {
       Base scaled[chunkSize];
       for (unsigned long i = 0; i < chunkSize; ++i) scaled[i] = widen<Base>(scaledHalf(factor, halves[i]));
-      keepChunk(to + at, scaled, count);
+      keepWholeChunk(to + at, scaled);
     });
   }
 };
@@ -105,6 +105,7 @@ class operand {
 
   // Rows i to i + rows - 1 of columns l to l + columns - 1, one column after the other without a gap. im is null in a
   // real product; in a complex one a real operand has imaginary parts of +0.
+  // Behind the last column re and im have room up to the next whole chunk of a column.
   void read(unsigned long i, unsigned long rows, unsigned long l, unsigned long columns, Base* re, Base* im) const;
 
  private:
