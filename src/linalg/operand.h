@@ -94,6 +94,7 @@ class operand {
         elementSize_(sizeof(Element)),
         leading_(leading),
         isReal_(!isComplexElement<Element>),
+        isHalves_(std::is_same_v<Element, fp16binary_t>),
         read_(leveled<readPass<Base, Element>, void const*, unsigned long, Base*, Base*>::chosen()) {}
 
   // Halves times the half `factor`, each product rounded to half.
@@ -108,6 +109,11 @@ class operand {
   // Behind the last column re and im have room up to the next whole chunk of a column.
   void read(unsigned long i, unsigned long rows, unsigned long l, unsigned long columns, Base* re, Base* im) const;
 
+  // Element (i, l) in memory, where the elements are halves as they are; otherwise null.
+  std::uint16_t const* halfAt(unsigned long i, unsigned long l) const {
+    return isHalves_ && scaled_ == nullptr ? static_cast<std::uint16_t const*>(at(i, l)) : nullptr;
+  }
+
  private:
   void readRun(void const* src, unsigned long n, Base* re, Base* im) const {
     if (scaled_ == nullptr) return read_(src, n, re, im);
@@ -119,6 +125,7 @@ class operand {
   unsigned long elementSize_;
   unsigned long leading_;
   bool isReal_;
+  bool isHalves_;
   void (*read_)(void const*, unsigned long, Base*, Base*);
   std::uint16_t factor_ = 0;
   void (*scaled_)(std::uint16_t const*, unsigned long, std::uint16_t, Base*) = nullptr;  // null: as they are

@@ -101,6 +101,21 @@ TEST(MatrixProduct, OfHalvesIsTheStatedSumsWhereEveryDimensionHasASeam) {
   }
 }
 
+TEST(MatrixProduct, WithAVectorIsTheStatedSumsAroundEverySeam) {
+  bitSource bits(12);
+  forEachProductRow([&](auto row) {
+    for (const unsigned long k : {2, 7, 9, 64, 255, 257, 300}) {
+      for (const unsigned long size : {1, 3, 4, 5, 31, 32, 40, 257}) {
+        expectProduct(row, 1, k, size, values::spoilt, bits);
+        expectProduct(row, size, k, 1, values::spoilt, bits);
+        expectProduct(row, 2, k, size, values::moderate, bits);
+      }
+    }
+    expectProduct(row, 1030, 9, 1, values::spoilt, bits);
+    expectProduct(row, 1, 9, 1030, values::spoilt, bits);
+  });
+}
+
 TEST(MatrixProduct, HasANaNsSignFromTheLastLaneThatHasOneOfTheLastStretch) {
   bitSource bits(7);
   using row = productRow<half_t, half_t, half_t>;
