@@ -9,6 +9,7 @@
 #include "bench/rows.h"
 #include "frame/loops/result_loop.h"
 #include "scalar/functors/elementary_functors.h"
+#include "scalar/functors/power_functors.h"
 
 namespace bench {
 namespace {

@@ -5,6 +5,7 @@
 
 #include "bench/peers/peers.h"
 #include "bench/rows.h"
+#include "zthalf/half_vector.h"
 
 namespace bench {
 namespace {

@@ -3,6 +3,7 @@
 #include "core/instruction_level.h"
 #include "elementwise/binary_op.h"
 #include "scalar/functors/hypot_functors.h"
+#include "scalar/functors/power_functors.h"
 #include "zthalf/half_vector.h"
 
 namespace bench {

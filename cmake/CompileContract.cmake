@@ -72,9 +72,20 @@ target_compile_options(zthalf_build INTERFACE
   $<${ZTHALF_FORTIFY}:-U_FORTIFY_SOURCE> $<${ZTHALF_FORTIFY}:-D_FORTIFY_SOURCE=2>
 )
 
+# Flags of single sources. CMake takes names of files that are not there, and the flags would be lost without a word.
+function(zthalf_require_sources)
+  foreach(source IN LISTS ARGN)
+    get_filename_component(path ${source} ABSOLUTE)
+    if(NOT EXISTS ${path})
+      message(FATAL_ERROR "${source} has flags of its own and is not there.")
+    endif()
+  endforeach()
+endfunction()
+
 # Loops of a few instructions that all calls of many functions go through begin a line of the instruction cache. Not for
 # every source: it makes the library larger, and longer loops do not gain from it.
 function(zthalf_aligns_loops)
+  zthalf_require_sources(${ARGN})
   set_source_files_properties(${ARGN} PROPERTIES COMPILE_OPTIONS -falign-loops=64)
 endfunction()
 
@@ -82,6 +93,7 @@ endfunction()
 # sources in which oneTBB's templates are instantiated are left uninstrumented too, and tell it the order of their tasks
 # (src/frame/loops/task_order.h); the loops' bodies are watched.
 function(zthalf_instantiates_tasks)
+  zthalf_require_sources(${ARGN})
   if(CMAKE_CXX_FLAGS MATCHES "-fsanitize=thread")
     set_source_files_properties(${ARGN} PROPERTIES
       COMPILE_OPTIONS -fno-sanitize=thread COMPILE_DEFINITIONS ZTHALF_WATCHES_THREADS SKIP_PRECOMPILE_HEADERS ON)

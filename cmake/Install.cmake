@@ -4,9 +4,20 @@ include(CMakePackageConfigHelpers)
 
 set(ZTHALF_HOMEPAGE "" CACHE STRING "Where the project is found on the net, for the pkg-config file; left out if empty")
 
-install(TARGETS zthalf EXPORT zthalfTargets
+set(targets zthalf)
+if(TARGET zthalf_host)
+  list(APPEND targets zthalf_host)
+endif()
+install(TARGETS ${targets} EXPORT zthalfTargets
   LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
-install(DIRECTORY ${PROJECT_SOURCE_DIR}/include/zthalf DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+set(except "")
+if(ZTHALF_HOST_INCLUDE_DIR)  # its header in place of our own: one over the other is left out where both are as old
+  set(except PATTERN host/vq_fields.h EXCLUDE)
+endif()
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/include/zthalf DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} ${except})
+if(ZTHALF_HOST_INCLUDE_DIR)
+  install(FILES ${ZTHALF_HOST_INCLUDE_DIR}/zthalf/host/vq_fields.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/zthalf/host)
+endif()
 install(FILES ${PROJECT_SOURCE_DIR}/LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR})
 install(EXPORT zthalfTargets NAMESPACE zthalf:: DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/zthalf)
 
@@ -18,13 +29,19 @@ else()
 endif()
 write_basic_package_version_file(zthalfConfigVersion.cmake COMPATIBILITY ${compatibility})
 
-# A program that is linked with the static library links what that needs as well.
+# A program that is linked with the static library links what that needs as well, the host included.
+set(ZTHALF_PC_HOST -lzthalf-host)
+if(NOT TARGET zthalf_host)
+  list(TRANSFORM ZTHALF_HOST_LIBRARIES REPLACE "^.*/lib([^/.]*)\\.[^/]*$" "-l\\1" OUTPUT_VARIABLE ZTHALF_PC_HOST)
+  list(PREPEND ZTHALF_PC_HOST -L${ZTHALF_HOST_LIBRARY_DIR})
+  list(JOIN ZTHALF_PC_HOST " " ZTHALF_PC_HOST)
+endif()
 get_target_property(kind zthalf TYPE)
 if(kind STREQUAL "STATIC_LIBRARY")
   set(ZTHALF_FIND_DEPENDENCIES
     "include(CMakeFindDependencyMacro)\nfind_dependency(TBB)\nfind_dependency(Threads)\n")
   set(ZTHALF_PC_REQUIRES Requires)
-  set(ZTHALF_PC_LIBS "-L\${libdir} -lzthalf -lstdc++ -lm -pthread")
+  set(ZTHALF_PC_LIBS "-L\${libdir} -lzthalf ${ZTHALF_PC_HOST} -lstdc++ -lm -pthread")
 else()
   set(ZTHALF_FIND_DEPENDENCIES "")
   set(ZTHALF_PC_REQUIRES Requires.private)

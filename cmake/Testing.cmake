@@ -1,7 +1,9 @@
-# zthalf_add_test(NAME name LABELS labels... [LEVELS] [LEAN] [LIBRARIES ...] [DEFINITIONS ...] [DEPENDS targets...])
+# zthalf_add_test(NAME name LABELS labels... [LEVELS] [LEAN] [LIBRARIES ...] [DEFINITIONS ...] [DEPENDS targets...]
+#                 [SOURCE file])
 #
-# The one way a test is made: <name>_test.cpp with the library's internals and GoogleTest, as a program. With LEVELS it is registered
-# once for each instruction level, name@base, name@v3, name@v4, and a level that the processor lacks counts as skipped.
+# The one way a test is made: <name>_test.cpp, or another file, with the library's internals and GoogleTest, as a
+# program. With LEVELS it is registered once for each instruction level, name@base, name@v3, name@v4, and a level that
+# the processor lacks counts as skipped.
 # LEAN is for tests that are long to compile and whose loops are those of the library: they are optimised little.
 # Tests whose GoogleTest names begin with Long are left to a second registration with the label long.
 #
@@ -27,9 +29,10 @@ target_include_directories(zthalf_test_support PUBLIC ${PROJECT_SOURCE_DIR})
 target_compile_definitions(zthalf_test_support PUBLIC ZTHALF_GOLDEN_DIRECTORY="${PROJECT_SOURCE_DIR}/tests/golden")
 target_compile_options(zthalf_test_support PUBLIC -Wall -Wextra $<$<BOOL:${ZTHALF_WERROR}>:-Werror>)
 
-# Tests of accuracy need MPFR and are left out of cross builds: accuracy follows from the bits, which are compared there.
+# Tests of accuracy need MPFR and MPC and are left out of cross builds: accuracy follows from the bits, which are compared there.
 if(NOT CMAKE_CROSSCOMPILING)
   find_library(ZTHALF_MPFR mpfr REQUIRED)
+  find_library(ZTHALF_MPC mpc REQUIRED)
 endif()
 
 if(CMAKE_SYSTEM_PROCESSOR MATCHES "x86_64|AMD64")
@@ -39,9 +42,12 @@ else()
 endif()
 
 function(zthalf_add_test)
-  cmake_parse_arguments(PARSE_ARGV 0 test "LEVELS;LEAN" "NAME" "LABELS;LIBRARIES;DEFINITIONS;DEPENDS")
+  cmake_parse_arguments(PARSE_ARGV 0 test "LEVELS;LEAN" "NAME;SOURCE" "LABELS;LIBRARIES;DEFINITIONS;DEPENDS")
   string(REPLACE "/" "_" target test_${test_NAME})
   set(source ${test_NAME}_test.cpp)
+  if(test_SOURCE)
+    set(source ${test_SOURCE})
+  endif()
   add_executable(${target} ${source})
   target_link_libraries(${target} PRIVATE zthalf_test_support ${test_LIBRARIES})
   target_compile_definitions(${target} PRIVATE ${test_DEFINITIONS})

@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
-"""Rewrites tests/abi/exports.txt, tests/abi/entries.txt and the Debian package's list of symbols from a built library.
+"""Rewrites tests/abi/exports.txt, tests/abi/entries.txt and the Debian package's list of symbols from a built library,
+and of the host library beside it tests/abi/host_exports.txt and its package's list.
 
 usage: tools/refresh-exports.py [LIBRARY]        (default build/release/libzthalf.so)
 
@@ -30,8 +31,8 @@ def entries_text(present):
                 yield '\n# %s\n%s' % (family, '\n'.join(names))
 
 
-def exports_text(path):
-    yield '# Every symbol that the library exports, without its version. Reviewed: a change here is a change of the'
+def exports_text(path, what):
+    yield '# Every symbol that ' + what + ' exports, without its version. Reviewed: a change here is a change of the'
     yield '# interface. Written by tools/refresh-exports.py.'
     yield from exports_test.exports(path)
 
@@ -43,9 +44,12 @@ def write(name, lines):
 
 
 def main(path):
-    write('tests/abi/exports.txt', exports_text(path))
+    host = os.path.join(os.path.dirname(path), 'libzthalf-host.so')
+    write('tests/abi/exports.txt', exports_text(path, 'the library'))
+    write('tests/abi/host_exports.txt', exports_text(host, 'the embedded host'))
     write('tests/abi/entries.txt', entries_text(library.entries(path)))
-    write(debian_symbols_test.LIST, debian_symbols_test.refreshed(ROOT, path))
+    for one in (path, host):
+        write(debian_symbols_test.list_of(one), debian_symbols_test.refreshed(ROOT, one))
     library.run('git', '-C', ROOT, 'rev-parse')
     print(library.run('git', '-C', ROOT, 'diff', '--stat', '--', 'tests/abi', 'debian') or 'no change')
 

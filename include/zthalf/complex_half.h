@@ -16,9 +16,9 @@ class std::complex<half_t>;
 /// take no part in which an operand is zero, of either sign: a real or imaginary operand gives no spurious NaN beside
 /// an infinity, and a part that nothing contributes to is +0. Otherwise
 ///   product:   each part as if it were computed exactly and rounded once;
-///   quotient:  (x conj y) / |y|^2 step by step in float, by Smith's method where |y|^2 is infinite, by halves where
-///              the divisor's parts have one magnitude. Divided by zero, a part of zero gives +0 beside a part that is
-///              not.
+///   quotient:  (x conj y) / |y|^2 step by step in float, by Smith's method where |y|^2 is infinite; where the
+///              divisor's parts have equal magnitude, both parts of x are halved first. Divided by zero, a part of zero
+///              gives +0 beside a part that is not.
 /// NaN: 0x7E00 with the sign of the part that it comes from, positive where an operation is invalid; with two NaNs a
 /// signalling one goes before a quiet one, then the one whose product or operand is written first above.
 ///

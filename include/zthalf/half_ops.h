@@ -88,6 +88,24 @@ ZTHALF_API void asin(fp16binary_t* src, fp16binary_t* dst, unsigned long n);
 ZTHALF_API void acos(fp16binary_t* src, fp16binary_t* dst, unsigned long n);
 ZTHALF_API void atanh(fp16binary_t* src, fp16binary_t* dst, unsigned long n);
 
+/// Complex forms of the functions that are no templates, and real elements with a complex result.
+ZTHALF_API void cplxSqrt(std::complex<fp16binary_t>* src, std::complex<fp16binary_t>* dst, unsigned long n);
+ZTHALF_API void cplxLog(std::complex<fp16binary_t>* src, std::complex<fp16binary_t>* dst, unsigned long n);
+ZTHALF_API void cplxLog1p(std::complex<fp16binary_t>* src, std::complex<fp16binary_t>* dst, unsigned long n);
+ZTHALF_API void cplxLog2(std::complex<fp16binary_t>* src, std::complex<fp16binary_t>* dst, unsigned long n);
+ZTHALF_API void cplxLog10(std::complex<fp16binary_t>* src, std::complex<fp16binary_t>* dst, unsigned long n);
+ZTHALF_API void cplxAsin(std::complex<fp16binary_t>* src, std::complex<fp16binary_t>* dst, unsigned long n);
+ZTHALF_API void cplxAcos(std::complex<fp16binary_t>* src, std::complex<fp16binary_t>* dst, unsigned long n);
+ZTHALF_API void cplxAtanh(std::complex<fp16binary_t>* src, std::complex<fp16binary_t>* dst, unsigned long n);
+ZTHALF_API void sqrt(fp16binary_t* src, std::complex<fp16binary_t>* dst, unsigned long n);
+ZTHALF_API void log(fp16binary_t* src, std::complex<fp16binary_t>* dst, unsigned long n);
+ZTHALF_API void log1p(fp16binary_t* src, std::complex<fp16binary_t>* dst, unsigned long n);
+ZTHALF_API void log2(fp16binary_t* src, std::complex<fp16binary_t>* dst, unsigned long n);
+ZTHALF_API void log10(fp16binary_t* src, std::complex<fp16binary_t>* dst, unsigned long n);
+ZTHALF_API void asin(fp16binary_t* src, std::complex<fp16binary_t>* dst, unsigned long n);
+ZTHALF_API void acos(fp16binary_t* src, std::complex<fp16binary_t>* dst, unsigned long n);
+ZTHALF_API void atanh(fp16binary_t* src, std::complex<fp16binary_t>* dst, unsigned long n);
+
 /// The stopping forms, half_vector::sqrtWithEarlyExit and so on.
 ZTHALF_API bool sqrtEarlyExit(fp16binary_t* src, fp16binary_t* dst, unsigned long n);
 ZTHALF_API bool logEarlyExit(fp16binary_t* src, fp16binary_t* dst, unsigned long n);

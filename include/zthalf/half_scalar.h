@@ -39,7 +39,7 @@ ZTHALF_API half_t nextafter(half_t x, half_t y);
 /// few results next to a tie it is the correctly rounded one. exp alone is coarser: within 0.873 units in the last
 /// place, and about one result in seven is not the nearest half.
 ///
-/// NaN results are 0x7E00 with the sign told for each group.
+/// NaN results are 0x7E00 with the sign stated for each group.
 
 /// exp(x), exp(x) - 1. A NaN keeps its sign; expm1 of a zero is that zero.
 ZTHALF_API half_t exp(half_t x);
@@ -184,6 +184,71 @@ ZTHALF_API bool isnan(std::complex<half_t> z);
 ZTHALF_API bool isinf(std::complex<half_t> z);
 ZTHALF_API bool isfinite(std::complex<half_t> z);
 ZTHALF_API half_t hypot(std::complex<half_t> x, std::complex<half_t> y);
+
+/// Exponentials, logarithms, roots and powers of complex values, computed in single precision, each part rounded to
+/// half once. On the real axis, where the imaginary part is a zero of either sign, a function that is real there gives
+/// the real function's result and an imaginary part of +0. NaN results are 0x7E00 and 0xFE00; where nothing else is
+/// told a NaN in either part gives NaNs in both.
+
+/// The root with a real part that is not negative; an imaginary part of -0 counts as +0, so that sqrt of (-4, -0) is
+/// (+0, 2). An infinite imaginary part beside a number gives infinity and that part. A real NaN keeps its sign beside
+/// +0; any other NaN gives 0x7E00 twice. Here the modulus is computed in double.
+ZTHALF_API std::complex<half_t> sqrt(std::complex<half_t> z);
+/// exp(z) and exp(z) - 1. A real part of -infinity gives two zeros, or -1 and +0, for every imaginary part that is no
+/// NaN; elsewhere an infinite imaginary part gives 0xFE00 twice. Unlike exp of a half, exp is not coarser than the
+/// others. expm1 keeps the digits of small arguments.
+ZTHALF_API std::complex<half_t> exp(std::complex<half_t> z);
+ZTHALF_API std::complex<half_t> expm1(std::complex<half_t> z);
+/// 10 and 2 to the power z: power of (10, 0) and (2, 0).
+ZTHALF_API std::complex<half_t> pow10(std::complex<half_t> z);
+ZTHALF_API std::complex<half_t> pow2(std::complex<half_t> z);
+/// The principal logarithms to base e, 2 and 10, and ln(1 + z). On the real axis a negative number (for log1p: one
+/// below -1) has an imaginary part of pi over the logarithm of the base, positive for either sign of the zero; all else
+/// has the real logarithm and +0, so that a zero (for log1p: -1) gives (-infinity, +0). On the imaginary axis, for
+/// log1p where the real part is -1, the imaginary part is half of that with the sign of the imaginary part. Elsewhere a
+/// NaN gives a NaN and 0xFE00.
+ZTHALF_API std::complex<half_t> log(std::complex<half_t> z);
+ZTHALF_API std::complex<half_t> log1p(std::complex<half_t> z);
+ZTHALF_API std::complex<half_t> log2(std::complex<half_t> z);
+ZTHALF_API std::complex<half_t> log10(std::complex<half_t> z);
+/// z to the power w. The first case that holds decides:
+///   w is 2                              z times z
+///   z and w real                        power of the real parts and +0, unless z is negative and w a finite number
+///                                       that is not an integer (for -infinity: a positive one)
+///   w not real, infinite or a NaN       exp(w log z)
+///   w is 0                              (1, +0), for a NaN 0xFE00 twice; (NaN, 0) has had the real power before
+///   w real                              z to the integer part by repeated squaring, times z to the fractional part;
+///                                       one over that for a negative w
+/// A product whose parts overflow or meet as infinity minus infinity is formed again from scaled factors. A zero to an
+/// infinitely imaginary power, without a real part of +infinity, is 0xFE00 twice.
+ZTHALF_API std::complex<half_t> power(std::complex<half_t> z, std::complex<half_t> w);
+
+/// Trigonometric and hyperbolic functions of complex values and their inverses, computed and rounded in the same way.
+/// Where one part of z is zero and one part of the result is so by symmetry, that part is +0.
+
+/// By the addition theorems. An infinite or NaN angle gives 0xFE00 as sine and cosine, and the products then go by the
+/// rules of NaN operands, so that signs of NaNs may differ. sinpi and cospi are those of pi z: where sine or cosine of
+/// the real part is an exact zero that part of the result stays a zero, beside an infinite factor too.
+ZTHALF_API std::complex<half_t> sin(std::complex<half_t> z);
+ZTHALF_API std::complex<half_t> cos(std::complex<half_t> z);
+ZTHALF_API std::complex<half_t> sinpi(std::complex<half_t> z);
+ZTHALF_API std::complex<half_t> cospi(std::complex<half_t> z);
+ZTHALF_API std::complex<half_t> sinh(std::complex<half_t> z);
+ZTHALF_API std::complex<half_t> cosh(std::complex<half_t> z);
+/// Far from the real axis (for tanh: from the imaginary one) 1 or -1 remains, and a part next to zero.
+ZTHALF_API std::complex<half_t> tan(std::complex<half_t> z);
+ZTHALF_API std::complex<half_t> tanh(std::complex<half_t> z);
+/// The principal values. On the real axis within the real function's domain, or for a real NaN, that function and +0.
+/// Beyond, on the cuts, the sign of a zero imaginary part is not seen: asin(2) is (pi/2, -1.317), acos(2) is
+/// (+0, 1.317), asin(-2) is (-pi/2, 1.317), acos(-2) is (pi, -1.317); atanh has an imaginary part of pi/2 with the sign
+/// of the real part. Any other NaN gives NaNs in both parts.
+ZTHALF_API std::complex<half_t> asin(std::complex<half_t> z);
+ZTHALF_API std::complex<half_t> acos(std::complex<half_t> z);
+ZTHALF_API std::complex<half_t> acosh(std::complex<half_t> z);
+ZTHALF_API std::complex<half_t> atanh(std::complex<half_t> z);
+/// atan(z) = -i atanh(i z), asinh(z) = -i asin(i z).
+ZTHALF_API std::complex<half_t> atan(std::complex<half_t> z);
+ZTHALF_API std::complex<half_t> asinh(std::complex<half_t> z);
 
 /// Conversions between numbers and half patterns.
 ///

@@ -23,7 +23,7 @@
 /// enough for the result to be that of a single one: it is the half nearest to the exact sum, difference or quotient.
 /// Overflow gives an infinity, nothing is reported.
 ///
-/// NaN results are 0x7E00 with the sign told here. An invalid operation (infinity minus infinity, 0 times infinity,
+/// NaN results are 0x7E00 with the sign stated here. An invalid operation (infinity minus infinity, 0 times infinity,
 /// 0/0, infinity/infinity) gives the positive NaN 0x7E00. With one NaN operand the result has that NaN's sign. With
 /// two, a signalling one (bit 9 clear) wins over a quiet one; otherwise the right operand of `+` and `*`, the left
 /// operand of `-` and `/` gives the sign.

@@ -101,6 +101,16 @@ ZTHALF_HYPERBOLIC_ENTRIES(ZTHALF_DECLARE_UNARY)
 /// asin, acos, atanh, real: outside [-1, 1] the result is the NaN 0xFE00.
 ZTHALF_BOUNDED_DOMAIN_ENTRIES(ZTHALF_DECLARE_UNARY)
 
+/// sqrt, exp, expm1, pow2, pow10, log, log1p, log2, log10, sin, cos, tan, sinpi, cospi, asin, acos, atan, sinh, cosh,
+/// tanh, asinh, acosh and atanh of complex elements, as the functions of half_scalar.h on std::complex<half_t>. There
+/// is no rsqrt of them.
+ZTHALF_COMPLEX_TEMPLATE_ENTRIES(ZTHALF_DECLARE_UNARY)
+ZTHALF_COMPLEX_FUNCTION_ENTRIES(ZTHALF_DECLARE_UNARY)
+
+/// sqrt, log, log1p, log2, log10, asin, acos and atanh of real elements with a complex output, for arrays that leave
+/// the real domain: of x what the complex function gives of (x, +0). Within the domain that is the real result and +0.
+ZTHALF_REAL_TO_COMPLEX_ENTRIES(ZTHALF_DECLARE_UNARY)
+
 /// The same functions for a caller that wants to know when a result would not be real: sqrtWithEarlyExit,
 /// logWithEarlyExit, log1pWithEarlyExit, log2WithEarlyExit, log10WithEarlyExit, asinWithEarlyExit, acosWithEarlyExit,
 /// atanhWithEarlyExit.

@@ -4,7 +4,7 @@
 #include "zthalf/detail/export.h"
 
 /// The element operations of half_vector::mod and half_vector::rem. An unsigned short is a binary16 pattern. The
-/// results are told at half_scalar::mod and half_scalar::rem; beside a float or double operand the remainder is taken
+/// results are stated at half_scalar::mod and half_scalar::rem; beside a float or double operand the remainder is taken
 /// in that type, exactly, and rounded to half once, and the tolerance for a divisor with a fraction is one epsilon of
 /// that type relative to the quotient.
 ///

@@ -1,7 +1,7 @@
 // The conversions between half patterns and single or double: the narrowest and hottest point of the library.
 //
 // All of it is branch-free and free of tables, so that a plain loop over it vectorises, and no floating-point step has
-// a subnormal operand: processors take a slow path for those, and a caller may have told them to flush them.
+// a subnormal operand: processors take a slow path for those, and a caller may have set them to flush them.
 //
 // A half needs no more than the upper 32 bits of a double, so both formats are work on 32-bit words: a wide pass then
 // keeps its vectors full. Clamps are minima and maxima of integers, which order positive floats as well, and the last

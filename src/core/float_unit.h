@@ -1,4 +1,4 @@
-// The four operations and the root, on the processor's unit and on the unit that defines all results.
+// The four operations on the processor's unit and on the unit that defines all results.
 //
 // A long formula is written once, as a template on a unit. On numbers both units give the same bits; they differ in
 // which NaN comes out. So the formula runs on the processor first, and again on the defining unit only if a NaN came
@@ -13,6 +13,7 @@
 namespace zthalf {
 
 struct plainUnit {
+  static constexpr bool settles = false;
   template <class Wide>
   ZTHALF_INLINE static Wide sum(Wide x, Wide y) {
     return x + y;
@@ -33,6 +34,7 @@ struct plainUnit {
 
 // The first operand is the one whose NaN is delivered, unless only the second one's is signalling.
 struct definedUnit {
+  static constexpr bool settles = true;
   template <class Wide>
   static Wide sum(Wide x, Wide y) {
     return settled(x + y, x, y);
@@ -48,6 +50,15 @@ struct definedUnit {
   template <class Wide>
   static Wide quotient(Wide x, Wide y) {
     return settled(x / y, x, y);
+  }
+};
+
+// The same unit with the factors of each product exchanged: it shows in which of two NaNs comes out.
+template <class Unit>
+struct factorsExchanged : Unit {
+  template <class Wide>
+  ZTHALF_INLINE static Wide product(Wide x, Wide y) {
+    return Unit::product(y, x);
   }
 };
 

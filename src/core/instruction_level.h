@@ -3,8 +3,8 @@
 // A pass is a type with a static, always inlined run(). leveled<Pass, Args...> compiles it once for each level and
 // chosen() gives the version for the level in use. A pass whose member isWide is false gains nothing from width, and is
 // compiled for the base level alone. A pass that is written in vectors has run<bytes>() instead, and is told the size of
-// the level's registers. The attribute is an instruction list and not a processor's name, so
-// that helpers compiled for the base level can be merged into a wide pass by both compilers.
+// the level's registers. The attribute is an instruction list and not a processor's name, so that helpers compiled for
+// the base level can be merged into a wide pass by both compilers.
 #pragma once
 
 #include <atomic>

@@ -1,9 +1,9 @@
 // Which NaN an operation delivers. The one place that knows; no other code relies on what the processor chose.
 //
-// The unit that defines the results gives the positive default NaN for an invalid operation, and for NaN operands the
-// first operand's NaN made quiet, unless only the second one is signalling. x86-64 gives a negative default NaN and
-// does not look at signalling, and a compiler may swap the operands of an addition or a multiplication. AArch64 has
-// the defining unit, and still the compiler may swap.
+// The unit that defines the results (docs/numerics.md) gives the positive default NaN for an invalid operation, and for
+// NaN operands the first operand's NaN made quiet, unless only the second one is signalling. x86-64 gives a negative
+// default NaN and does not look at signalling, and a compiler may swap the operands of an addition or a multiplication.
+// AArch64 has the defining unit, and still the compiler may swap.
 #pragma once
 
 #include <cstdint>
@@ -16,8 +16,8 @@
 namespace zthalf {
 
 // The sign bit of the NaN that two half operands give, first and second in the order of the defining unit: 0 where
-// neither is a NaN. Integer work on 16-bit lanes, so that it costs little in a wide pass. Of each word only bit 15 is
-// meant; it is the truth value, and in the operands the sign.
+// neither is a NaN. Integer work on 16-bit lanes, so that it costs little in a wide pass. Only bit 15 of each word
+// counts: the truth value of a mask, the sign of an operand.
 ZTHALF_INLINE std::uint16_t signOfNaN(std::uint16_t first, std::uint16_t second) {
   // Adding 0x03FF to the magnitude carries into bit 15 exactly for a NaN.
   constexpr std::uint16_t step = 0x8000 - (pattern::infinity + 1);

@@ -20,13 +20,13 @@ ZTHALF_INLINE bool areShifted(T, R*, unsigned long) {
   return false;
 }
 
-// The ascending pass, as it stands; the compiler sees to overlap before it takes a wide form, and moves the widening of
-// a single value out of the loop.
+// A plain ascending loop. The compiler adds its own overlap check before the vector form, and moves the widening of a
+// single value out of the loop.
 template <class Ftor, class T1, class T2, class R>
 struct binaryPass {
   static constexpr bool isWide = zthalf::earnsLevelsFor<Ftor, std::remove_pointer_t<T1>, std::remove_pointer_t<T2>>;
   ZTHALF_INLINE static void run(T1 a, T2 b, R* c, unsigned long n) {
-    // A functor's own pass reads ahead of what it writes.
+    // A functor's own pass reads a block before writing it, so no operand may be shifted against the output.
     if constexpr (requires { Ftor::runInBlocks(a, b, c, n); }) {
       if (!areShifted(a, c, n) && !areShifted(b, c, n)) return Ftor::runInBlocks(a, b, c, n);
     }

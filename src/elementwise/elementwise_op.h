@@ -1,5 +1,6 @@
 // The loops under every operation of two or three operands, compiled once: what is particular to an operation and its
-// element types is a handful of flat passes.
+// element types is a handful of flat passes. A copy of the engine for each of more than 500 pairs and triples of types
+// would be larger than the rest of the library.
 #pragma once
 
 #include <array>

@@ -26,10 +26,11 @@ void meetAndRun(elementwiseOp const& op, operandPointers const& in, void* out, s
     return expand(op, in, out, plan, shapeD.n >= expansionThreshold);
   }
   const unsigned long na = shapeA.n, nb = shapeB.n, nc = shapeC.n;
-  if (na != nb && na != 1) return flatLoop(op, nc != 1 ? 5 : 4, in, out, na);
-  if (na != nb) return flatLoop(op, nc != 1 ? 3 : 2, in, out, nb);
-  if (nc == na) return flatLoop(op, 7, in, out, na);
-  return nc != 1 ? flatLoop(op, 1, in, out, nc) : flatLoop(op, 6, in, out, na);
+  const meeting withC = nc != 1 ? cVaries : 0;
+  if (na != nb && na != 1) return flatLoop(op, aVaries | withC, in, out, na);
+  if (na != nb) return flatLoop(op, bVaries | withC, in, out, nb);
+  if (nc == na) return flatLoop(op, aVaries | bVaries | cVaries, in, out, na);
+  return nc != 1 ? flatLoop(op, cVaries, in, out, nc) : flatLoop(op, aVaries | bVaries, in, out, na);
 }
 
 }  // namespace half_utils

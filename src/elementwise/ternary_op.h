@@ -16,22 +16,24 @@ struct ternaryPass {
   }
 };
 
-// The seven meetings, a's bit the highest.
+// Which operands vary along a pass; the others are single elements. All seven meetings are sums of these.
+inline constexpr meeting aVaries = 4, bVaries = 2, cVaries = 1;
+
 template <class Ftor, class A, class B, class C, class D>
 flatPass ternaryPassFor(meeting along) {
   if constexpr (!repeatsSingles<Ftor, A, B, C>) {
     switch (along) {
-      case 1:
+      case cVaries:
         return passOnPointers<ternaryPass<Ftor, A, B, C*, D>>::chosen();
-      case 2:
+      case bVaries:
         return passOnPointers<ternaryPass<Ftor, A, B*, C, D>>::chosen();
-      case 3:
+      case bVaries | cVaries:
         return passOnPointers<ternaryPass<Ftor, A, B*, C*, D>>::chosen();
-      case 4:
+      case aVaries:
         return passOnPointers<ternaryPass<Ftor, A*, B, C, D>>::chosen();
-      case 5:
+      case aVaries | cVaries:
         return passOnPointers<ternaryPass<Ftor, A*, B, C*, D>>::chosen();
-      case 6:
+      case aVaries | bVaries:
         return passOnPointers<ternaryPass<Ftor, A*, B*, C, D>>::chosen();
       default:
         break;
@@ -49,8 +51,9 @@ inline constexpr elementwiseOp const& flatTernaryOp =
     ternaryOp<Ftor, std::remove_pointer_t<T1>, std::remove_pointer_t<T2>, std::remove_pointer_t<T3>, R>;
 
 template <class T1, class T2, class T3>
-inline constexpr meeting ternaryMeetingOf = (std::is_pointer_v<T1> ? 4u : 0u) | (std::is_pointer_v<T2> ? 2u : 0u) |
-                                            (std::is_pointer_v<T3> ? 1u : 0u);
+inline constexpr meeting ternaryMeetingOf = (std::is_pointer_v<T1> ? aVaries : 0u) |
+                                            (std::is_pointer_v<T2> ? bVaries : 0u) |
+                                            (std::is_pointer_v<T3> ? cVaries : 0u);
 
 template <class Ftor, class T1, class T2, class T3, class R>
 void ternaryOpParallel(T1 a, T2 b, T3 c, R* d, unsigned long n, Ftor) {

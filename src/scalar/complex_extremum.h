@@ -72,7 +72,7 @@ ZTHALF_INLINE bool areApart(Square smaller, Square larger) {
   return smaller < larger * (1 - Square(0x1p-16));
 }
 
-// In double nothing is lost of the squares of floats. Most numbers are told from each other by them alone.
+// In double nothing is lost of the squares of floats. They alone decide between most numbers.
 template <class Kind>
 ZTHALF_INLINE bool isReplaced(std::complex<float> held, std::complex<float> candidate) {
   const auto squaredLengthOf = [](std::complex<float> z) {

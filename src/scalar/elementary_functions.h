@@ -22,8 +22,8 @@
 #define ZTHALF_LOGARITHMS(X)                  \
   X(log, inLanes<zthalf::logOf>)              \
   X(log1p, byKernel<qsl_scalar::log1pSingle>) \
-  X(log2, oneByOne<zthalf::log2Of>)           \
-  X(log10, oneByOne<zthalf::log10Of>)
+  X(log2, byKernel<qsl_scalar::log2Single>)   \
+  X(log10, byKernel<qsl_scalar::log10Single>)
 
 #define ZTHALF_TRIGONOMETRIC_FUNCTIONS(X)     \
   X(sin, byKernel<qsl_scalar::sinSingle>)     \

@@ -1,7 +1,7 @@
 // Which of two numbers min and max keep: halves as patterns, and floats and doubles.
 //
 // One element is held, and a candidate replaces it or does not. A tie never replaces, and the two zeros tie, so of
-// equal elements the first one is kept. What max does is what min does with every comparison turned round.
+// equal elements the first one is kept. What max does is what min does with every comparison reversed.
 #pragma once
 
 #include <cstdint>

@@ -12,9 +12,6 @@ namespace zthalf {
 
 ZTHALF_INLINE std::uint16_t logOf(std::uint16_t x) { return narrow(qsl_scalar::logSingle(widen<float>(x))); }
 
-std::uint16_t log2Of(std::uint16_t x);
-std::uint16_t log10Of(std::uint16_t x);
-
 // x = fraction * 2^exponent, exact, with |fraction| in [0.5, 1); both parts are halves. Every half is a normal float,
 // so the fields of the float give them. Zeros, infinities and NaNs are their own fraction, with the exponent +0; a
 // signalling NaN is made quiet by the narrowing.

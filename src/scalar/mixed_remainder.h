@@ -18,7 +18,7 @@ namespace zthalf {
 // nearest integer is compared with one epsilon of the quotient; a quotient beyond the type's range counts as an
 // integer.
 //
-// So does a quotient that is rounded to zero. That one is told by the last places in x: the processor may be set to
+// So does a quotient that is rounded to zero. That one is decided by the last places in x: the processor may be set to
 // flush all subnormal numbers to zero, which must not change the answer. An x that small is no half, so y is one.
 template <class Wide>
 bool dividesWithinTolerance(Wide x, Wide y) {

@@ -24,9 +24,9 @@ ZTHALF_INLINE std::uint16_t plainMultiplyAdd(std::uint16_t x, std::uint16_t y, s
   return narrow(nudgedSum<13>(widen<float>(x) * widen<float>(y), widen<float>(z)));
 }
 
-// With the NaN of the defining unit: the product's is the sum's first operand. The result is a half, so of every NaN
-// only its sign counts and whether it signals, and all that is decided on half patterns: z's is that of its NaN. The
-// product's NaN is always a quiet one.
+// With the NaN of the defining unit (core/nan_policy.h): the product's is the sum's first operand. The result is a
+// half, so of every NaN only its sign counts and whether it signals, and all that is decided on half patterns: z's is
+// that of its NaN. The product's NaN is always a quiet one.
 ZTHALF_INLINE std::uint16_t settledMultiplyAdd(std::uint16_t x, std::uint16_t y, float z, std::uint16_t nanOfZ) {
   const float product = widen<float>(x) * widen<float>(y);
   const auto productNaN = static_cast<std::uint16_t>(maskOf<std::uint32_t>(product != product) & pattern::quietNaN);
@@ -59,8 +59,7 @@ ZTHALF_INLINE Out roundedTo(Wide value) {
   }
 }
 
-// The other mixtures. The product of a float with a half or a float has up
-// to 48 bits and takes double.
+// The other mixtures. The product of a float with a half or a float has up to 48 bits and takes double.
 template <class X, class Y, class Z>
 ZTHALF_INLINE auto multiplyAdd(X x, Y y, Z z) {
   using floating = std::conditional_t<anyFloat<X, Y, Z>, float, double>;

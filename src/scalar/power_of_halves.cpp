@@ -23,9 +23,8 @@ bool isNormal(std::uint16_t magnitude) {
 
 }  // namespace
 
-// How many calls a processor has under way at a time depends on how many instructions each of them has, so the usual
-// case goes without those that decide the others: a positive normal x, a normal y, no square and no root. The power is
-// a number from 0 to 65536 then.
+// The fewer instructions a call has, the more calls overlap. So the usual case skips what only decides special ones: a
+// positive normal x, a normal y, no square and no root. The power is a number from 0 to 65536 then.
 std::uint16_t powerOfTwoHalves(std::uint16_t x, std::uint16_t y) {
   constexpr std::uint16_t two = 0x4000, oneHalf = 0x3800;
   const bool isUsual = isNormal(x) && isNormal(pattern::magnitudeOf(y)) && y != two && y != oneHalf;

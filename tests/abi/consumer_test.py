@@ -22,7 +22,7 @@ def main(source, build, compiler):
         library.run('cmake', '-S', consumer, '-B', tree, '-G', 'Ninja', '-DCMAKE_PREFIX_PATH=' + prefix,
                     '-DCMAKE_CXX_COMPILER=' + compiler, '-DCMAKE_C_COMPILER=' + c_compiler)
         library.run('cmake', '--build', tree)
-        for program in ('consumer', 'replaced_entry'):
+        for program in ('consumer', 'replaced_entry', 'replaced_operation'):
             library.run(os.path.join(tree, program))
             report.require(True, program)
         configured = library.run('grep', 'zthalf_DIR', os.path.join(tree, 'CMakeCache.txt'))

@@ -1,6 +1,6 @@
-"""The Debian package's list of symbols is the library's: every name, under its SONAME, with the version it came in.
+"""The Debian packages' lists of symbols are the libraries': every name, under its SONAME, with the version it came in.
 
-usage: debian_symbols_test.py SOURCE_DIRECTORY LIBRARY
+usage: debian_symbols_test.py SOURCE_DIRECTORY LIBRARY...
 """
 import os
 import re
@@ -8,7 +8,6 @@ import sys
 
 import library
 
-LIST = os.path.join('debian', 'libzthalf0.symbols')
 LINE = re.compile(r' (\S+)@Base (\S+)$')
 
 
@@ -23,29 +22,36 @@ def soname(path):
     return re.search(r'\(SONAME\).*\[(.*)\]', library.run('readelf', '--wide', '--dynamic', path)).group(1)
 
 
+def package(path):
+    """The package that has the library, and whose list it is."""
+    return re.sub(r'\.so\.', '', soname(path))
+
+
+def list_of(path):
+    return os.path.join('debian', package(path) + '.symbols')
+
+
 def head(path):
     """The first two lines: which library, which package has it, which one a program is built with."""
-    name = soname(path)
-    plain, number = re.match(r'lib(\w+)\.so\.(\d+)$', name).groups()
-    return ['%s lib%s%s #MINVER#' % (name, plain, number), '* Build-Depends-Package: lib%s-dev' % plain]
+    return ['%s %s #MINVER#' % (soname(path), package(path)), '* Build-Depends-Package: libzthalf-dev']
 
 
-def listed(source):
+def listed(source, name):
     """(head, {mangled name: since which version}); nothing where there is no list yet"""
-    path = os.path.join(source, LIST)
+    path = os.path.join(source, name)
     if not os.path.exists(path):
         return [], {}
     with open(path) as text:
         lines = text.read().splitlines()
     rows = [LINE.match(line) for line in lines[2:]]
     if not all(rows):
-        sys.exit('FAILED: cannot read %s: %s' % (LIST, lines[2 + rows.index(None)]))
+        sys.exit('FAILED: cannot read %s: %s' % (name, lines[2 + rows.index(None)]))
     return lines[:2], {row.group(1): row.group(2) for row in rows}
 
 
 def refreshed(source, path):
     """The list as it should be: names that stand in it keep their version, new ones get the present one."""
-    since, now = listed(source)[1], version(source)
+    since, now = listed(source, list_of(path))[1], version(source)
     yield from head(path)
     for name in sorted({s.name for s in library.exported(path)}):
         yield ' %s@Base %s' % (name, since.get(name, now))
@@ -55,18 +61,26 @@ def numbers(text):
     return [int(n) for n in text.split('.')]
 
 
-def main(source, path):
-    report = library.Report('debian symbols')
-    first, since = listed(source)
-    report.require(first == head(path), '%s begins with %s, not %s' % (LIST, first, head(path)))
+def check(report, source, path):
+    listing = list_of(path)
+    first, since = listed(source, listing)
+    report.require(first == head(path), '%s begins with %s, not %s' % (listing, first, head(path)))
     exported = {s.name for s in library.exported(path)}
+    report.require(exported, '%s exports nothing' % path)
     for name in sorted(exported - since.keys()):
-        report.require(False, '%s is exported and not in %s: run tools/refresh-exports.py' % (name, LIST))
+        report.require(False, '%s is exported and not in %s: run tools/refresh-exports.py' % (name, listing))
     for name in sorted(since.keys() - exported):
-        report.require(False, '%s is in %s and not exported' % (name, LIST))
+        report.require(False, '%s is in %s and not exported' % (name, listing))
     now = version(source)
     for name, began in sorted(since.items()):
         report.require(numbers(began) <= numbers(now), '%s is said to have come in %s: this is %s' % (name, began, now))
+
+
+def main(source, *paths):
+    report = library.Report('debian symbols')
+    for path in paths:
+        check(report, source, path)
+    now = version(source)
     with open(os.path.join(source, 'debian', 'changelog')) as changelog:
         latest = changelog.readline()
     report.require(re.match(r'zthalf \(%s[)~+-]' % re.escape(now), latest),
@@ -75,4 +89,4 @@ def main(source, path):
 
 
 if __name__ == '__main__':
-    main(*sys.argv[1:3])
+    main(*sys.argv[1:])

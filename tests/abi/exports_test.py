@@ -1,14 +1,12 @@
-"""The exported symbols are exactly those of the reviewed list, exports.txt.
+"""The exported symbols are exactly those of the reviewed list.
 
-usage: exports_test.py LIBRARY
+usage: exports_test.py LIBRARY LIST        (exports.txt, host_exports.txt)
 """
 import difflib
 import os
 import sys
 
 import library
-
-LIST = os.path.join(library.HERE, 'exports.txt')
 
 
 def exports(path):
@@ -20,18 +18,18 @@ def exports(path):
                   for s in library.exported(path))
 
 
-def main(path):
-    report = library.Report('exports.txt')
-    expected, actual = library.lines_of(LIST), exports(path)
+def main(path, name):
+    report = library.Report(name)
+    expected, actual = library.lines_of(os.path.join(library.HERE, name)), exports(path)
     report.require(actual, 'the library exports nothing')
     difference = [line for line in difflib.unified_diff(expected, actual, lineterm='', n=0)
                   if line[0] in '+-' and line[:3] not in ('+++', '---')]
     for line in difference:
         print(('exported, not in the list:  ' if line[0] == '+' else 'in the list, not exported:  ') + line[1:])
-    report.require(not difference, 'exported symbols differ from tests/abi/exports.txt in %d lines; if that is wanted, '
-                   'run tools/refresh-exports.py and review the difference' % len(difference))
+    report.require(not difference, 'exported symbols differ from tests/abi/%s in %d lines; if that is wanted, '
+                   'run tools/refresh-exports.py and review the difference' % (name, len(difference)))
     report.finish()
 
 
 if __name__ == '__main__':
-    main(sys.argv[1])
+    main(*sys.argv[1:3])

@@ -22,7 +22,7 @@ def main(path):
     reached = {}
     for function, body in library.functions(path):
         match = re.match(r'half_vector::(\w+)\(', function)
-        if not match or match.group(1) in NOT_FORWARDERS or function.endswith('@plt'):  # the library calls some
+        if not match or match.group(1) in NOT_FORWARDERS or function.endswith('@plt'):  # how others get there
             continue
         jump = next((i for i, (mnemonic, _) in enumerate(body) if mnemonic == 'jmp'), None)
         if jump is None or not body[jump][1].startswith('*'):

@@ -1,9 +1,9 @@
 """The ways to install: without the tests and what they need, into absolute folders, as a static library, and back.
 
-usage: install_test.py SOURCE_DIRECTORY CXX_COMPILER SHARED_LIBRARY STATIC_LIBRARY
+usage: install_test.py SOURCE_DIRECTORY CXX_COMPILER SHARED_LIBRARY STATIC_LIBRARY STATIC_HOST
 
 Nothing is compiled twice: what the configured trees would build is lent to them by the tree under test, the static
-library being its archive of the same objects.
+libraries being its archives of the same objects.
 """
 import glob
 import os
@@ -92,16 +92,18 @@ def check_absolute_folders(report, tree, work, consumer):
     report.require(not glob.glob(os.path.join(prefix, '*', 'zthalf')), 'folders were left behind')
 
 
-def check_static(report, tree, work, consumer, archive):
+def check_static(report, tree, work, consumer, archive, host_archive):
     """The archive brings what it needs, by pkg-config and by CMake, and leaves no trace of the shared library."""
     prefix = os.path.join(work, 'static')
     status, output = tree.configure('-DBUILD_SHARED_LIBS=OFF', '-DCMAKE_INSTALL_LIBDIR=lib', '-DZTHALF_HOMEPAGE=',
                                     '-DCMAKE_INSTALL_PREFIX=' + prefix)
     report.require(status == 0, 'BUILD_SHARED_LIBS=OFF: ' + output)
     shutil.copy(archive, os.path.join(tree.folder, 'libzthalf.a'))
+    shutil.copy(host_archive, os.path.join(tree.folder, 'libzthalf-host.a'))
     library.run('cmake', '--install', tree.folder)
     installed = files_below(prefix)
-    report.require('lib/libzthalf.a' in installed and not any('.so' in name for name in installed),
+    both = {'lib/libzthalf.a', 'lib/libzthalf-host.a'}
+    report.require(both <= set(installed) and not any('.so' in name for name in installed),
                    'installed as a static library: %s' % installed)
     package = os.path.join(prefix, 'lib', 'pkgconfig')
     with open(os.path.join(package, 'zthalf.pc')) as text:
@@ -132,19 +134,19 @@ def check_versions(report, tree, work):
         report.require(answer == served, 'find_package(zthalf %s) is served: %s' % (wanted, answer))
 
 
-def main(source, compiler, shared, archive):
+def main(source, compiler, shared, archive, host_archive):
     report = library.Report('install')
     with tempfile.TemporaryDirectory() as work:
         tree = Tree(source, os.path.join(work, 'build'), compiler)
         check_preset(report, tree, work)
-        for name in glob.glob(os.path.join(os.path.dirname(shared), 'libzthalf.so*')):
+        for name in glob.glob(os.path.join(os.path.dirname(shared), 'libzthalf*.so*')):
             shutil.copy(name, tree.folder, follow_symlinks=False)
         consumer = Consumer(source, work, compiler)
         check_absolute_folders(report, tree, work, consumer)
         check_versions(report, tree, work)
-        check_static(report, tree, work, consumer, archive)
+        check_static(report, tree, work, consumer, archive, host_archive)
     report.finish()
 
 
 if __name__ == '__main__':
-    main(*sys.argv[1:5])
+    main(*sys.argv[1:6])

@@ -14,7 +14,7 @@ LOOKED_UP = re.compile(r'R_(X86_64|AARCH64)_GLOB_DAT$')
 
 # What the compiler's own runtime does at load: register exception frames, and look at the processor once.
 RUNTIME_INITIALISERS = {'frame_dummy', '__cpu_indicator_init', 'init_have_lse_atomics', 'init_cpu_features'}
-DEPENDENCIES = {'libtbb.so.12', 'libstdc++.so.6', 'libm.so.6', 'libgcc_s.so.1', 'libc.so.6', 'ld-linux-x86-64.so.2',
+DEPENDENCIES = {'libtbb.so.12', 'libzthalf-host.so.0', 'libstdc++.so.6', 'libm.so.6', 'libgcc_s.so.1', 'libc.so.6', 'ld-linux-x86-64.so.2',
                 'ld-linux-aarch64.so.1'}
 
 
@@ -72,10 +72,13 @@ def check_module(path, soname, report):
                    'the library is bound lazily, so its links stay writable')
     report.require('TEXTREL' not in dynamic, 'the loader must write to the code')
     report.require('SYMBOLIC' not in dynamic, 'linked with -Bsymbolic: no entry can be replaced')
-    report.require(not tags & {'RPATH', 'RUNPATH'}, 'the library carries a search path: %s' % values('RUNPATH'))
+    # Its host lies in its own folder, wherever that is; it is looked for nowhere else.
+    report.require('RPATH' not in tags and values('RUNPATH') == ['$ORIGIN'],
+                   'the library is to look beside itself, not in %s' % values('RUNPATH'))
     needed = set(values('NEEDED'))
     report.require(needed <= DEPENDENCIES, 'new dependencies: %s' % ', '.join(sorted(needed - DEPENDENCIES)))
-    report.require('libtbb.so.12' in needed, 'oneTBB is not among the dependencies')
+    for name in ('libtbb.so.12', 'libzthalf-host.so.0'):
+        report.require(name in needed, '%s is not among the dependencies' % name)
     report.require(re.search(r' LOAD .* RWE? ', segments) and not re.search(r' LOAD .* RWE ', segments),
                    'a segment is writable and executable')
 

@@ -1,4 +1,8 @@
 // What one pair of elements gives in each row of the arithmetic families: expectedOf(row name, x, y).
+//
+// Taken from the library, each with a test of its own: hypot of two real operands and the magnitude of complex halves
+// (scalar/hypot, scalar/complex/complex_functions), hypotDouble (scalar/kernels/hypot_double), mod and rem beside wider
+// operands (scalar/mixed_remainder).
 #pragma once
 
 #include <cmath>

@@ -61,12 +61,7 @@ TEST_P(ArithmeticRows, FollowTheirRules) {
     const auto c = resultsOf(row, a, b);
     bitComparison compare(row.name);
     for (std::size_t i = 0; i < c.size(); ++i) {
-      const auto expected = arithmeticRule<Left, Right>::expectedOf(row.name, a[i], b[i]);
-      if (bitsIn(c[i]) != bitsIn(expected)) {
-        ADD_FAILURE() << row.name << " at pair " << i << ": " << hex(c[i]) << ", expected " << hex(expected);
-        if (::testing::Test::HasFailure() && i > 20) return;
-      }
-      compare.check(c[i], expected);
+      compare.check(c[i], arithmeticRule<Left, Right>::expectedOf(row.name, a[i], b[i]), i);
     }
   });
 }

@@ -16,9 +16,6 @@ namespace {
 
 using namespace zthalf::testing;
 
-static_assert(half::scalar::emulated::plusFtor::grain == 256);
-static_assert(half::scalar::emulated::ulpFtor::grain == 128);
-
 struct pairFtor {
   static constexpr unsigned long grain = 64;
   ZTHALF_INLINE unsigned long long operator()(unsigned short a, unsigned int b) const {

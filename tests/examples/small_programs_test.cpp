@@ -48,4 +48,27 @@ TEST(SmallPrograms, SolveFindsTheSolutionAndAZeroPivot) {
             "with a column of zeros: info 3\n");
 }
 
+TEST(SmallPrograms, HostArraysDoesWhatAHostDoes) {
+  if (!EXAMPLES_HOST) GTEST_SKIP() << "the program is for the embedded host, and another one is linked";
+  const auto result = run("host_arrays");
+  EXPECT_EQ(result.status, 0);
+  EXPECT_EQ(result.err, "");
+  EXPECT_EQ(result.out,
+            "a column plus a row, 3 by 4:\n"
+            " 0.0999756  10.1016  20.0938  30.0938\n"
+            " 0.199951  10.2031  20.2031  30.2031\n"
+            " 0.300049  10.2969  20.2969  30.2969\n"
+            "complex: 1, then: 0\n"
+            "its real parts, 2 by 1:\n"
+            "        1\n"
+            "        2\n"
+            "distances: 0.400 0.400 0.200\n"
+            "half:error:dimagree: The two inputs must have the same size.\n"
+            "__float2half(0.33325195F)\n"
+            "0.333251953125F16\n"
+            "static_cast<real16_T>(0.33325195F)\n"
+            "floatToHalf(0.33325195F)\n"
+            "{ 13653U } /* 0.333251953125 */ \n");
+}
+
 }  // namespace

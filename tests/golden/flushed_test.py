@@ -15,6 +15,8 @@ HERE = os.path.dirname(os.path.abspath(__file__))
 NUMERICS = os.path.join(HERE, '..', '..', 'docs', 'numerics.md')
 HEADING = '## Programs that flush subnormal numbers'
 BESIDE_HALVES = re.compile(r'Single|Double|\bfloat\b|\bdouble\b')
+# Repeated squaring of complex halves goes down to subnormal floats, and the reciprocal of one is seen.
+SQUARES_HALVES = re.compile(r'cplxPowerCplxHalfCplxHalf|cplxPowerCplxHalfHalf|power\(std::complex<half_t>')
 MET_SUBNORMALS = '*'
 
 
@@ -63,7 +65,7 @@ def main(command):
         report.require(name in names, '%s is listed, and the program does not have it' % name)
         report.require(name not in changed or name in expected, '%s gives other bits and is not listed' % name)
         report.require(name in changed or name not in expected, '%s is listed and gives the same bits' % name)
-        if not BESIDE_HALVES.search(name):
+        if not BESIDE_HALVES.search(name) and not SQUARES_HALVES.match(name):
             report.require(name not in expected and name not in met, '%s meets subnormal floats' % name)
     report.finish()
 

@@ -16,6 +16,7 @@ HERE = os.path.dirname(os.path.abspath(__file__))
 sys.path.insert(0, os.path.join(HERE, '..', 'abi'))
 import library  # noqa: E402
 
+PACKAGES = ('libzthalf-host0', 'libzthalf0', 'libzthalf-dev')
 TOOLS = ('dpkg-buildpackage', 'dh', 'lintian', 'fakeroot')
 # The folders that Debian's own tools leave in a working tree, and those that are not sources.
 NOT_SOURCES = shutil.ignore_patterns('.git', 'build', 'obj-*', '__pycache__')
@@ -54,7 +55,7 @@ def build(copy):
 
 def check_packages(report, work, copy):
     built = {os.path.basename(path).split('_')[0]: path for path in glob.glob(os.path.join(work, '*.deb'))}
-    for package in ('libzthalf0', 'libzthalf-dev'):
+    for package in PACKAGES:
         report.require(package in built, 'there is no package ' + package)
     status, output = call('lintian', '--fail-on', 'error', glob.glob(os.path.join(work, '*.changes'))[0])
     print(output)
@@ -104,7 +105,7 @@ def check_on_clean_debian(report, root, copy, built):
         shutil.copy(package, os.path.join(root, 'zthalf'))
     shutil.copy(os.path.join(copy, 'README.md'), os.path.join(root, 'zthalf'))
     shutil.copytree(os.path.join(copy, 'debian', 'tests'), os.path.join(root, 'zthalf', 'debian', 'tests'))
-    packages = ['/zthalf/' + os.path.basename(built[name]) for name in ('libzthalf0', 'libzthalf-dev')]
+    packages = ['/zthalf/' + os.path.basename(built[name]) for name in PACKAGES]
     with open(os.path.join(copy, 'debian', 'tests', 'control')) as control:
         depends = [line for line in control if line.startswith('Depends:')][0].split(':')[1].replace(',', ' ').split()
     others = [name for name in depends if name not in built]
@@ -114,7 +115,7 @@ def check_on_clean_debian(report, root, copy, built):
     status, output = inside('sh', '/zthalf/debian/tests/readme-example')
     print(output)
     report.require(status == 0, 'the README\'s example with the installed packages:\n' + output)
-    status, output = inside('apt-get', 'purge', '--yes', 'libzthalf0', 'libzthalf-dev')
+    status, output = inside('apt-get', 'purge', '--yes', *PACKAGES)
     report.require(status == 0, 'the packages cannot be removed:\n' + output)
     left = [path for top in ('etc', 'usr', 'var/lib/dpkg/info') for path in
             glob.glob(os.path.join(root, top, '**', '*zthalf*'), recursive=True)]
@@ -127,7 +128,7 @@ def check_below_a_folder(report, root, copy, built):
         open(os.path.join(root, 'var', 'lib', 'dpkg', name), 'w').close()
     status, output = call('fakeroot', 'dpkg', '--root=' + root, '--force-depends', '--force-not-root',
                           '--force-script-chrootless', '--log=' + os.path.join(root, 'dpkg.log'), '--install',
-                          built['libzthalf0'], built['libzthalf-dev'])
+                          *(built[name] for name in PACKAGES))
     report.require(status == 0, 'the packages do not install:\n' + output)
     folders = glob.glob(os.path.join(root, 'usr', 'lib', '*', 'pkgconfig'))
     report.require(len(folders) == 1, 'folders of pkg-config: %s' % folders)

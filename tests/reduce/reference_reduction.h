@@ -115,10 +115,15 @@ class reduction {
     return total;
   }
 
-  // Half accumulators take the tree's result first.
+  // Half accumulators take the tree's result first, a complex product of them in its multiplications alone.
   folded finished(folded total, folded partial) const {
-    const bool partialFirst = std::is_same_v<Part, half_t>;
-    return {partialFirst ? met(partial.v, total.v) : met(total.v, partial.v), total.count + partial.count};
+    const unsigned long count = total.count + partial.count;
+    if constexpr (std::is_same_v<Part, half_t>) {
+      if (kind_.op != folding::prod || !kind_.isComplex) return {met(partial.v, total.v), count};
+      if (kind_.omitsNaN && (hasNaN(total.v) || hasNaN(partial.v))) return {met(total.v, partial.v), count};
+      return {totalTimesRun(total.v, partial.v), count};
+    }
+    return {met(total.v, partial.v), count};
   }
 
   resultBits output(folded total) const {

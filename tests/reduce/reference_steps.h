@@ -1,4 +1,5 @@
-// The steps of sums and products once more: one operation after the other, each NaN decided before it is met.
+// The steps of sums and products once more: one operation after the other, each NaN decided before it is met. Sums and
+// products of real halves are the operators, which scalar/half_arithmetic tests.
 #pragma once
 
 #include <bit>
@@ -8,6 +9,7 @@
 #include <limits>
 #include <type_traits>
 
+#include "tests/scalar/complex/complex_rules.h"
 #include "tests/support/reference.h"
 #include "zthalf/half_t.h"
 
@@ -133,9 +135,17 @@ number<Wide> complexProductOf(number<Wide> x, number<Wide> y) {
   return r;
 }
 
+// Of halves: the rules of the operator, which are the reference of its own test, too.
+namespace halves = zthalf::testing::rules;
+
+inline halves::pairOf<float> inSingle(number<half_t> x) { return {halves::in<float>(x.re), halves::in<float>(x.im)}; }
+inline number<half_t> rounded(halves::pairOf<float> z) { return {{halves::rounded(z.re)}, {halves::rounded(z.im)}}; }
+
 inline number<half_t> complexProductOf(number<half_t> x, number<half_t> y) {
-  const std::complex<half_t> r = std::complex<half_t>(x.re, x.im) * std::complex<half_t>(y.re, y.im);
-  return {r.real(), r.imag()};
+  return rounded(halves::timesComplex<halves::way::nudgedSingle>(inSingle(x), inSingle(y)));
+}
+inline number<half_t> totalTimesRun(number<half_t> total, number<half_t> run) {
+  return rounded(halves::totalTimesRun(inSingle(total), inSingle(run)));
 }
 
 }  // namespace zthalf::reference

@@ -29,8 +29,6 @@ using ge = ftor<ops::geFtor, half::utils::getFirstArgFtor>;
 using lt = ftor<ops::ltFtor, half::utils::getFirstArgFtor>;
 using le = ftor<ops::leFtor, half::utils::getFirstArgFtor>;
 
-static_assert(eq::grain == 128 && lt::grain == 128);
-
 template <class T>
 T asStored(T x) {
   return x;

@@ -48,21 +48,6 @@ TEST(Functors, HaveNoState) {
   EXPECT_TRUE((std::is_empty_v<castToFtor<float, fp16binary_t, void>>));
 }
 
-TEST(Functors, CarryTheirGrain) {
-  EXPECT_EQ(uminusFtor::grain, 4096u);
-  EXPECT_EQ(conjFtor::grain, 4096u);
-  EXPECT_EQ(realFtor::grain, 4096u);
-  EXPECT_EQ(imagFtor::grain, 4096u);
-  EXPECT_EQ(isnanOfBoth::grain, 4096u);
-  EXPECT_EQ(absFtor::grain, 512u);
-  EXPECT_EQ(realToComplexFtor::grain, 512u);
-  EXPECT_EQ(signFtor::grain, 256u);
-  EXPECT_EQ(epsFtor::grain, 256u);
-  EXPECT_EQ(ceilOfBoth::grain, 128u);
-  EXPECT_EQ((castToFtor<float, fp16binary_t, void>::grain), 128u);
-  EXPECT_EQ((castToFtor<fp16binary_t, bool, void>::grain), 128u);
-}
-
 TEST(Functors, OnRealElementsAreTheScalarFunctions) {
   bitComparison compare("real functor");
   testing::forEveryPattern([&](std::uint16_t h) {

@@ -17,53 +17,29 @@ using testing::bitComparison;
 
 // Every pair of the curated patterns: the primitive, the operator and the compound operator.
 
-TEST(HalfSum, FollowsTheRuleOnEveryCuratedPair) {
-  bitComparison compare("sum");
+template <class Primitive, class Reference, class Operator, class Compound>
+void followsTheRule(char const* name, Primitive primitive, Reference reference, Operator apply, Compound assign) {
+  bitComparison compare(name);
   testing::forEveryCuratedPair([&](std::uint16_t a, std::uint16_t b) {
-    const std::uint16_t expected = reference::sum(a, b);
+    const std::uint16_t expected = reference(a, b);
     half_t x{a};
-    x += half_t{b};
-    compare.check(sumOf(a, b), expected, a, b);
-    compare.check(half_t{a} + half_t{b}, half_t{expected}, a, b);
+    assign(x, half_t{b});
+    compare.check(primitive(a, b), expected, a, b);
+    compare.check(apply(half_t{a}, half_t{b}), half_t{expected}, a, b);
     compare.check(x, half_t{expected}, a, b);
   });
 }
 
-TEST(HalfDifference, FollowsTheRuleOnEveryCuratedPair) {
-  bitComparison compare("difference");
-  testing::forEveryCuratedPair([&](std::uint16_t a, std::uint16_t b) {
-    const std::uint16_t expected = reference::difference(a, b);
-    half_t x{a};
-    x -= half_t{b};
-    compare.check(differenceOf(a, b), expected, a, b);
-    compare.check(half_t{a} - half_t{b}, half_t{expected}, a, b);
-    compare.check(x, half_t{expected}, a, b);
-  });
-}
-
-TEST(HalfProduct, FollowsTheRuleOnEveryCuratedPair) {
-  bitComparison compare("product");
-  testing::forEveryCuratedPair([&](std::uint16_t a, std::uint16_t b) {
-    const std::uint16_t expected = reference::product(a, b);
-    half_t x{a};
-    x *= half_t{b};
-    compare.check(productOf(a, b), expected, a, b);
-    compare.check(half_t{a} * half_t{b}, half_t{expected}, a, b);
-    compare.check(x, half_t{expected}, a, b);
-  });
-}
-
-TEST(HalfQuotient, FollowsTheRuleOnEveryCuratedPair) {
-  bitComparison compare("quotient");
-  testing::forEveryCuratedPair([&](std::uint16_t a, std::uint16_t b) {
-    const std::uint16_t expected = reference::quotient(a, b);
-    half_t x{a};
-    x /= half_t{b};
-    compare.check(quotientOf(a, b), expected, a, b);
-    compare.check(half_t{a} / half_t{b}, half_t{expected}, a, b);
-    compare.check(x, half_t{expected}, a, b);
-  });
-}
+#define ZTHALF_TEST_OPERATION(name, primitive, op)                                                \
+  TEST(HalfArithmetic, name##FollowsTheRuleOnEveryCuratedPair) {                                  \
+    followsTheRule(                                                                               \
+        #name, [](std::uint16_t a, std::uint16_t b) { return primitive(a, b); }, reference::name, \
+        [](half_t a, half_t b) { return a op b; }, [](half_t& x, half_t b) { x op## = b; });      \
+  }
+ZTHALF_TEST_OPERATION(sum, sumOf, +)
+ZTHALF_TEST_OPERATION(difference, differenceOf, -)
+ZTHALF_TEST_OPERATION(product, productOf, *)
+ZTHALF_TEST_OPERATION(quotient, quotientOf, /)
 
 // Against exact integer arithmetic, for random pairs of finite halves.
 TEST(HalfArithmetic, RoundsTheExactResult) {

@@ -98,7 +98,7 @@ void forEachBinaryRow(Visit visit) {
   ZTHALF_REMAINDER_ENTRIES(ZTHALF_VISIT_REMAINDER_ROW)
 }
 
-// The functions that choose an entry by the types they are told, as functions of typed operands.
+// The functions that choose an entry by the types that are passed, as functions of typed operands.
 namespace chosen {
 
 template <class T>

@@ -1,5 +1,5 @@
-// Reductions by min and max as they are told: the tree cut in halves, each right half beginning with the array's first
-// element, and chains along dimensions. By recursion on a list of values, over all dimensions at once.
+// Reductions by min and max as they are stated: the tree cut in halves, each right half beginning with the array's
+// first element, and chains along dimensions. By recursion on a list of values, over all dimensions at once.
 #pragma once
 
 #include <vector>

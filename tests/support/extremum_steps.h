@@ -1,4 +1,5 @@
-// The rules of min and max step by step as they are told, each form written out for itself.
+// The rules of min and max step by step as they are stated, each form written out for itself. Lengths and angles are
+// those of the library's kernels, which have tests of their own.
 #pragma once
 
 #include <cmath>

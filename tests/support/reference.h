@@ -1,6 +1,6 @@
-// What the library's values must be, told once more in another way: conversions step by step with branches, arithmetic
-// with the NaN decided before any float operation, order by the numbers. Slow; volatile keeps every operation a real,
-// separately rounded one.
+// What the library's values must be, written once more in another way: conversions step by step with branches,
+// arithmetic with the NaN decided before any float operation, order by the numbers. Slow; volatile keeps every
+// operation a real, separately rounded one.
 #pragma once
 
 #include <bit>

@@ -1,6 +1,6 @@
 // What each unary operation does to one element: the expected value of the tests that are read from the entry list.
 //
-// rule::<facade name> of an element. A name that is not told here is looked up in half_scalar, so a row whose operation
+// rule::<facade name> of an element. A name that is not here is looked up in half_scalar, so a row whose operation
 // has a scalar function of the same name needs nothing; any other row does not compile before it has its rule here.
 #pragma once
 
@@ -62,7 +62,17 @@ inline complexHalf uminus(complexHalf z) { return {uminus(z.real()), negatedImag
 inline complexHalf conj(complexHalf z) { return {z.real(), negatedImaginaryPart(z.imag())}; }
 inline half_t real(complexHalf z) { return z.real(); }
 inline half_t imag(complexHalf z) { return z.imag(); }
-inline complexHalf realToComplex(half_t x) { return {x, half_t{0}}; }
+inline complexHalf realToComplex(complexHalf z) { return z; }
+
+// A half whose result is complex goes to the rule as a complex half with an imaginary part of +0.
+template <class Out, class In>
+auto operandFor(In x) {
+  if constexpr (std::is_same_v<In, half_t> && std::is_same_v<Out, complexHalf>) {
+    return complexHalf{x, half_t{0}};
+  } else {
+    return x;
+  }
+}
 
 // Holds a rule to the output type of its row: std::complex would take a real result silently.
 template <class Out, class Result>

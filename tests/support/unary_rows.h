@@ -46,14 +46,16 @@ namespace element = half_vector::element;
 ZTHALF_UNARY_ENTRIES(ZTHALF_ROW_OPERATION)
 #undef ZTHALF_ROW_OPERATION
 
-#define ZTHALF_VISIT_ROW(entryName, facadeName, In, Out, ...)    \
-  visit(unaryRow<element::In, element::Out>{                     \
-      #entryName, &half_vector::facadeName,                      \
-      [](element::In* src, element::Out* dst, unsigned long n) { \
-        half_ptr::entryName##Ptr(stored(src), stored(dst), n);   \
-      },                                                         \
-      &operations::entryName,                                    \
-      [](loaded<element::In> x) { return rule::exactly<element::Out>(rule::facadeName(x)); }});
+#define ZTHALF_VISIT_ROW(entryName, facadeName, In, Out, ...)                                           \
+  visit(unaryRow<element::In, element::Out>{#entryName, &half_vector::facadeName,                       \
+                                            [](element::In* src, element::Out* dst, unsigned long n) {  \
+                                              half_ptr::entryName##Ptr(stored(src), stored(dst), n);    \
+                                            },                                                          \
+                                            &operations::entryName,                                     \
+                                            [](loaded<element::In> x) {                                 \
+                                              return rule::exactly<element::Out>(                       \
+                                                  rule::facadeName(rule::operandFor<element::Out>(x))); \
+                                            }});
 
 // visit(row) for every unary row.
 template <class Visit>

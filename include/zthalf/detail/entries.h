@@ -5,8 +5,8 @@
 // Tags are the aliases of element_types.h. The names an entry list expands to are kept in plain text, for searching and
 // as a test's expected value, in tests/abi/entries.txt.
 //
-// A family lists its rows by the tags that its shape has. What only wants an entry, its signature and its function reads
-// entry_rows.h, where every row of every family has one shape.
+// A family lists its rows by the tags that its shape has. What only wants an entry, its signature and its function
+// reads entry_rows.h, where every row of every family has one shape.
 //
 // An entry enters this list in the change that brings its body.
 //
@@ -103,19 +103,61 @@
   X(acos, acos, Half, Half, acos)        \
   X(atanh, atanh, Half, Half, atanh)
 
-#define ZTHALF_UNARY_ENTRIES(X)    \
-  ZTHALF_CONVERSION_ENTRIES(X)     \
-  ZTHALF_BITWISE_ENTRIES(X)        \
-  ZTHALF_CLASSIFICATION_ENTRIES(X) \
-  ZTHALF_SPACING_ENTRIES(X)        \
-  ZTHALF_ROUNDING_ENTRIES(X)       \
-  ZTHALF_ROOT_ENTRIES(X)           \
-  ZTHALF_EXPONENTIAL_ENTRIES(X)    \
-  ZTHALF_LOGARITHM_ENTRIES(X)      \
-  ZTHALF_TRIGONOMETRIC_ENTRIES(X)  \
-  ZTHALF_ARC_TANGENT_ENTRIES(X)    \
-  ZTHALF_HYPERBOLIC_ENTRIES(X)     \
-  ZTHALF_BOUNDED_DOMAIN_ENTRIES(X)
+// Complex forms. Those of the templates above are instances of theirs, the others functions of their own.
+#define ZTHALF_COMPLEX_TEMPLATE_ENTRIES(X)                          \
+  X(cplxExp, exp, CplxHalf, CplxHalf, exp<element::CplxHalf>)       \
+  X(cplxExpm1, expm1, CplxHalf, CplxHalf, expm1<element::CplxHalf>) \
+  X(cplxPow2, pow2, CplxHalf, CplxHalf, pow2<element::CplxHalf>)    \
+  X(cplxPow10, pow10, CplxHalf, CplxHalf, pow10<element::CplxHalf>) \
+  X(cplxSin, sin, CplxHalf, CplxHalf, sin<element::CplxHalf>)       \
+  X(cplxSinPi, sinpi, CplxHalf, CplxHalf, sinpi<element::CplxHalf>) \
+  X(cplxCos, cos, CplxHalf, CplxHalf, cos<element::CplxHalf>)       \
+  X(cplxCosPi, cospi, CplxHalf, CplxHalf, cospi<element::CplxHalf>) \
+  X(cplxTan, tan, CplxHalf, CplxHalf, tan<element::CplxHalf>)       \
+  X(cplxAtan, atan, CplxHalf, CplxHalf, atan<element::CplxHalf>)    \
+  X(cplxSinh, sinh, CplxHalf, CplxHalf, sinh<element::CplxHalf>)    \
+  X(cplxCosh, cosh, CplxHalf, CplxHalf, cosh<element::CplxHalf>)    \
+  X(cplxTanh, tanh, CplxHalf, CplxHalf, tanh<element::CplxHalf>)    \
+  X(cplxAsinh, asinh, CplxHalf, CplxHalf, asinh<element::CplxHalf>) \
+  X(cplxAcosh, acosh, CplxHalf, CplxHalf, acosh<element::CplxHalf>)
+
+#define ZTHALF_COMPLEX_FUNCTION_ENTRIES(X)           \
+  X(cplxSqrt, sqrt, CplxHalf, CplxHalf, cplxSqrt)    \
+  X(cplxLog, log, CplxHalf, CplxHalf, cplxLog)       \
+  X(cplxLog1p, log1p, CplxHalf, CplxHalf, cplxLog1p) \
+  X(cplxLog2, log2, CplxHalf, CplxHalf, cplxLog2)    \
+  X(cplxLog10, log10, CplxHalf, CplxHalf, cplxLog10) \
+  X(cplxAsin, asin, CplxHalf, CplxHalf, cplxAsin)    \
+  X(cplxAcos, acos, CplxHalf, CplxHalf, cplxAcos)    \
+  X(cplxAtanh, atanh, CplxHalf, CplxHalf, cplxAtanh)
+
+// Real elements with a complex result: overloads of the real functions.
+#define ZTHALF_REAL_TO_COMPLEX_ENTRIES(X)             \
+  X(sqrtRealToComplex, sqrt, Half, CplxHalf, sqrt)    \
+  X(logRealToComplex, log, Half, CplxHalf, log)       \
+  X(log1pRealToComplex, log1p, Half, CplxHalf, log1p) \
+  X(log2RealToComplex, log2, Half, CplxHalf, log2)    \
+  X(log10RealToComplex, log10, Half, CplxHalf, log10) \
+  X(asinRealToComplex, asin, Half, CplxHalf, asin)    \
+  X(acosRealToComplex, acos, Half, CplxHalf, acos)    \
+  X(atanhRealToComplex, atanh, Half, CplxHalf, atanh)
+
+#define ZTHALF_UNARY_ENTRIES(X)      \
+  ZTHALF_CONVERSION_ENTRIES(X)       \
+  ZTHALF_BITWISE_ENTRIES(X)          \
+  ZTHALF_CLASSIFICATION_ENTRIES(X)   \
+  ZTHALF_SPACING_ENTRIES(X)          \
+  ZTHALF_ROUNDING_ENTRIES(X)         \
+  ZTHALF_ROOT_ENTRIES(X)             \
+  ZTHALF_EXPONENTIAL_ENTRIES(X)      \
+  ZTHALF_LOGARITHM_ENTRIES(X)        \
+  ZTHALF_TRIGONOMETRIC_ENTRIES(X)    \
+  ZTHALF_ARC_TANGENT_ENTRIES(X)      \
+  ZTHALF_HYPERBOLIC_ENTRIES(X)       \
+  ZTHALF_BOUNDED_DOMAIN_ENTRIES(X)   \
+  ZTHALF_COMPLEX_TEMPLATE_ENTRIES(X) \
+  ZTHALF_COMPLEX_FUNCTION_ENTRIES(X) \
+  ZTHALF_REAL_TO_COMPLEX_ENTRIES(X)
 
 // Early-exit rows: X(entry, facade name, input tag, output tag, function in namespace half)
 
@@ -301,8 +343,8 @@
 // Matrix products: as binary rows, without shapes.
 #define ZTHALF_PRODUCT_ENTRIES(X) ZTHALF_TWENTY_PAIRS(X, mtimes)
 
-// Routines after BLAS and LAPACK: X(entry, shape, template in namespace half::blas). The shape is an
-// alias of entry_shapes.h without its ending; each has a facade function of its own.
+// Routines after BLAS and LAPACK: X(entry, shape, template in namespace half::blas). The shape is an alias of
+// entry_shapes.h without its ending; each has a facade function of its own.
 #define ZTHALF_BLAS_ENTRIES(X)                                                                   \
   X(hgemmHalfHalf, hgemm, hgemm<half::storage::Half, half::storage::Half, half::storage::Half>) \
   X(hscalHalfHalf, hscal, hscal<half::storage::Half, half::storage::Half>)                      \

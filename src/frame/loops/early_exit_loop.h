@@ -95,8 +95,8 @@ bool halfUnarySimpleLoopWithEarlyExit(In* src, Out* dst, unsigned long n, Ftor f
 }
 
 // The element pair of output i: the quotient and the remainder of i by divisor, as ints. So a scalar on the left, a
-// scalar on the right (divisor 1) and a row against a column meet as expected, and two arrays of equal size pair the
-// left array's element 0 with every element of the right one.
+// scalar on the right (divisor 1) and a row against a column meet as expected. Two arrays of equal size do not meet one
+// by one: a[0] meets every b. That is the definition.
 inline std::div_t pairOf(unsigned long i, unsigned long divisor) {
   return std::div(static_cast<int>(i), static_cast<int>(divisor));
 }

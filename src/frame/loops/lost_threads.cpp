@@ -14,8 +14,8 @@ void noteTheLoss() { lost.store(true, std::memory_order_relaxed); }
 
 }  // namespace
 
-// Two threads may both come to be the first one. Told twice is as good as told once, and needs no lock, which a copied
-// process might find locked for ever.
+// Two threads may both be the first one. Registering twice does no harm, and needs no lock, which a copied process
+// might find locked for ever.
 bool threadsAreLost() {
   if (!watching.load(std::memory_order_relaxed)) {
     pthread_atfork(nullptr, nullptr, &noteTheLoss);

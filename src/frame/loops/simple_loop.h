@@ -9,7 +9,7 @@
 
 namespace half_utils {
 
-// The ascending pass, as it stands. Where source and destination overlap, each element is read after the earlier ones
+// A plain ascending loop. Where source and destination overlap, each element is read after the earlier ones
 // were written; the compiler checks for overlap itself before it takes a wide form of the loop.
 template <class Ftor, class In, class Out>
 struct unaryPass {

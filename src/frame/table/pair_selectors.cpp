@@ -1,4 +1,4 @@
-// The functions of min and max that choose an entry of the table by the types they are told.
+// The functions of min and max that choose an entry of the table by the types that are passed.
 #include <type_traits>
 
 #include "core/shape_parameters.h"

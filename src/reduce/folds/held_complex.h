@@ -76,7 +76,7 @@ class heldComplex {
     return zthalf::isReplaced<Kind>(widened(value_), length_, widened(candidate), zthalf::lengthOf(widened(candidate)));
   }
 
-  // Every chain meets the element again that it began with.
+  // Every chain starts with the tree's first element and so meets it twice.
   bool isSameElement(cplxHalf candidate) const {
     return candidate.real().bits == value_.real().bits && candidate.imag().bits == value_.imag().bits;
   }
@@ -89,8 +89,8 @@ class heldComplex {
     limit_ = square != square ? (isSmallest ? infinity : -infinity) : square * (isSmallest ? 1 + margin : 1 - margin);
   }
 
-  // Beyond it squares are apart, whichever of the two it is taken of. Everything is worth asking beside a NaN, which
-  // any number replaces.
+  // Squares that differ by more than this factor are apart, whichever is the base. Everything is worth asking beside a
+  // NaN, which any number replaces.
   static constexpr float margin = 0x1p-15f;
 
   cplxHalf value_;

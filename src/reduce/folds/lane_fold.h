@@ -39,8 +39,6 @@ typename Step::number widened(sourceOf<Step> const& element) {
   return x;
 }
 
-// A column's trees are folded with the tree's result as first operand where the chains round to half, and with the
-// column's value as first operand where they do not: it decides between two NaNs.
 template <class Step>
 struct laneFold {
   using source = sourceOf<Step>;
@@ -50,8 +48,7 @@ struct laneFold {
   static accumulator start(source const*) { return Step::identity(); }
   static accumulator join(accumulator left, accumulator right) { return Step::settled(left, right); }
   static accumulator finish(accumulator total, accumulator partial, reducedPosition) {
-    return chainOf<typename Step::accumulator>::roundsToHalf ? Step::settled(partial, total)
-                                                             : Step::settled(total, partial);
+    return Step::finished(total, partial);
   }
 
   // Leaves of one depth differ in length by at most one element. Where they lie at two depths, some have 256 elements
@@ -158,7 +155,7 @@ class laneRows {
   using wide = typename Step::wide;
 
   // Rows lie far apart, in pages of their own where the source is wide, so that nothing else brings them near in time.
-  // An address that is not there does no harm.
+  // Prefetching an unmapped address is harmless.
   void fetchAhead(source const* elements, unsigned long length) {
     const auto here = reinterpret_cast<std::uintptr_t>(elements);
     const auto ahead = here + rowsAhead * (here - before_);

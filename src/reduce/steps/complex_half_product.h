@@ -12,12 +12,30 @@ struct complexHalfProductStep : stepOn<std::complex<fp16binary_t>> {
 
   static number identity() { return {{1}}; }
   static number settled(number folded, number next) {
-    const zthalf::complexOf<float> x{folded.part[0], folded.part[1]}, y{next.part[0], next.part[1]};
-    const auto product =
-        zthalf::onDefinedUnit([&](auto unit) { return zthalf::timesComplex<zthalf::exactInSingle>(unit, x, y); });
-    return {{roundedToHalf(product.re), roundedToHalf(product.im)}};
+    return rounded([&](auto unit) {
+      return zthalf::timesComplex<zthalf::exactInSingle>(unit, complexOf(folded), complexOf(next));
+    });
   }
   static number plain(number folded, number next) { return settled(folded, next); }
+
+  // The total is the left factor, and so its terms come first in each sum; but within each multiplication the partial's
+  // part is the first operand. A real total multiplies the partial's parts that way already.
+  static number finished(number total, number partial) {
+    const auto x = complexOf(total), y = complexOf(partial);
+    return rounded([&](auto unit) {
+      if (x.im == 0) return zthalf::timesReal(unit, y, x.re);
+      return zthalf::timesComplex<zthalf::exactInSingle>(zthalf::factorsExchanged<decltype(unit)>{}, x, y);
+    });
+  }
+
+ private:
+  static zthalf::complexOf<float> complexOf(number z) { return {z.part[0], z.part[1]}; }
+
+  template <class Formula>
+  static number rounded(Formula product) {
+    const zthalf::complexOf<float> z = zthalf::onDefinedUnit(product);
+    return {{roundedToHalf(z.re), roundedToHalf(z.im)}};
+  }
 };
 
 }  // namespace half_utils

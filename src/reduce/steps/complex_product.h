@@ -45,6 +45,7 @@ struct complexProductStep : stepOn<Accumulator> {
   static number identity() { return {{1}}; }
   static number settled(number folded, number next) { return complexProduct(folded, next); }
   static number plain(number folded, number next) { return settled(folded, next); }
+  static number finished(number total, number partial) { return settled(total, partial); }
 };
 
 }  // namespace half_utils

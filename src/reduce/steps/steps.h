@@ -5,18 +5,20 @@
 //   accumulator, wide, parts, number          the accumulator's type in the interface and what stands for it here
 //   number identity()
 //   number settled(number folded, number next)
-//                                             the result, NaNs as on the defining unit, `folded` being the first
+//                                             the result, NaNs as on the defined unit, `folded` being the first
 //                                             operand
 //   number plain(number folded, number next)  the same but for a NaN, which may be another one
 //   plainIsEnough                             the two are the same function
+//   number finished(number total, number partial)
+//                                             a run's tree joins the total of its column: as settled(), but where the
+//                                             chain rounds to half the partial is the first operand
 //
 // and, if it likes,
 //
 //   void admit(next)                          changes the next value's patterns before they are widened for plain()
 //   neutral                                   a half that leaves what was folded as it is, in plain()
 //
-// Among steps on one accumulator a NaN stays a NaN in plain chains, so the end of a chain tells whether its NaNs
-// matter.
+// A NaN never leaves a plain chain: if its end is no NaN, none occurred.
 #pragma once
 
 #include "core/patterns.h"
@@ -72,6 +74,9 @@ struct partwiseStep : stepOn<Accumulator> {
     }
     return folded;
   }
+  static number finished(number total, number partial) {
+    return chainOf<Accumulator>::roundsToHalf ? settled(partial, total) : settled(total, partial);
+  }
 
  private:
   template <class Wide>
@@ -102,7 +107,7 @@ struct omittingNaN : Step {
   ZTHALF_INLINE static void admit(std::uint16_t (&next)[Step::parts]) {
     if constexpr (takesNeutral<Step>) {
       std::uint16_t isNaN = 0;
-      for (const std::uint16_t part : next) isNaN |= zthalf::maskOf<std::uint16_t>(hasNaN(part));
+      for (const std::uint16_t part : next) isNaN |= zthalf::pattern::nanMask(part);
       for (std::uint16_t& part : next) part = zthalf::select(isNaN, Step::neutral, part);
     }
   }
@@ -113,11 +118,6 @@ struct omittingNaN : Step {
       return chosen(isNaN(next), folded, Step::plain(folded, next));
     }
   }
-
- private:
-  ZTHALF_INLINE static bool hasNaN(std::uint16_t part) {
-    return static_cast<std::int16_t>(zthalf::pattern::magnitudeOf(part)) > std::int16_t{zthalf::pattern::infinity};
-  }
 };
 
 // A NaN neither enters the chain nor survives in it: one that the operation itself made is thrown away at the next step
@@ -127,8 +127,14 @@ struct replacingNaN : omittingNaN<Step> {
   using typename Step::number;
 
   ZTHALF_INLINE static number settled(number folded, number next) {
-    const number result = chosen(isNaN(next), folded, Step::settled(folded, next));
-    return chosen(isNaN(folded), chosen(isNaN(next), Step::identity(), next), result);
+    return met(folded, next, Step::settled(folded, next));
+  }
+  static number finished(number total, number partial) { return met(total, partial, Step::finished(total, partial)); }
+
+ private:
+  ZTHALF_INLINE static number met(number folded, number next, number result) {
+    const number numbers = chosen(isNaN(next), folded, result);
+    return chosen(isNaN(folded), chosen(isNaN(next), Step::identity(), next), numbers);
   }
 };
 

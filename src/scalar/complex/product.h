@@ -22,7 +22,7 @@ struct exactProducts {
     const Wide first = Unit::product(p, r);
     const Wide second = Unit::product(q, s);
     const Wide sum = nudgedSum<dropped>(first, second);
-    return std::is_same_v<Unit, definedUnit> ? settled(sum, first, second) : sum;
+    return Unit::settles ? settled(sum, first, second) : sum;
   }
 };
 using exactInSingle = exactProducts<13>;

@@ -22,14 +22,6 @@ struct inQuickLanes : inLanes<formula> {
   static constexpr bool isQuick = true;
 };
 
-// A formula with branches.
-template <std::uint16_t (*formula)(std::uint16_t)>
-struct oneByOne {
-  static constexpr unsigned long grain = 256;
-  static constexpr bool baseOnly = true;
-  fp16binary_t operator()(fp16binary_t x) const { return {formula(x.bits)}; }
-};
-
 // A kernel in single, its result rounded to half once.
 template <float (*kernel)(float)>
 struct byKernel {

@@ -21,6 +21,9 @@ struct epsFtor {
 struct ulpFtor {
   static constexpr unsigned long grain = 128;
   static constexpr bool baseOnly = true;  // a chain of tests
+  // There are loops over two arrays alone.
+  template <class A, class B>
+  static constexpr bool repeatsSinglesFor = true;
 
   template <class A, class B>
   double operator()(A a, B b) const {

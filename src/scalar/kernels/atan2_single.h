@@ -9,9 +9,9 @@
 
 namespace qsl_scalar {
 
-// The angle of (x, y), from -pi to pi; the ordinate comes first. In the right half plane it is +-atan|y/x|; in the left
-// one it is +-(pi - atan|y/x|), with pi in two parts. The quotient may be infinite, and may vanish: the arc tangent is
-// pi/2 to the last place long before the one, and is lost beside pi long before the other.
+// The angle of (x, y), from -pi to pi, within 1.5 ulp; the ordinate comes first. In the right half plane it is
+// +-atan|y/x|; in the left one it is +-(pi - atan|y/x|), with pi in two parts. The quotient may be infinite, and may
+// vanish: the arc tangent is pi/2 to the last place long before the one, and is lost beside pi long before the other.
 //
 // What the quotient does not decide is put in after it, each case above the ones before:
 //   x a zero, or y infinite: pi/2 with the sign of y; in the left half plane too, unlike pi - pi/2 in two parts

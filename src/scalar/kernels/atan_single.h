@@ -7,7 +7,7 @@
 
 namespace qsl_scalar {
 
-// One of five values, by the interval of t that atanOfMagnitude tells.
+// One of five values, by the interval of t, as at atanOfMagnitude.
 ZTHALF_INLINE float pickByInterval(float t, float zero, float half, float one, float threeHalves, float unbounded) {
   using zthalf::maskOf;
   using zthalf::select;
@@ -18,8 +18,8 @@ ZTHALF_INLINE float pickByInterval(float t, float zero, float half, float one, f
   return floatOf(picked);
 }
 
-// The arc tangent of a magnitude, an infinite one too. With a centre c, atan t = atan c + atan a, a = (t - c)/(1 + c
-// t):
+// The arc tangent of a magnitude, an infinite one too. With a centre c, atan t = atan c + atan a where
+// a = (t - c)/(1 + c t):
 //
 //   t in [0, 7/16)        c = 0         a = t
 //     [7/16, 11/16)       c = 1/2       a = (2t - 1) / (2 + t)

@@ -1,4 +1,4 @@
-// What the double-precision kernels share: a double as two 32-bit words, and the NaN that they return by decision.
+// What the double-precision kernels share: a double as two 32-bit words, and the NaN that they return by definition.
 //
 // The kernels decide by the high word alone: sign, exponent field and the 20 leading fraction bits. As a signed integer
 // the high words of positive doubles are ordered like the doubles, as far as they differ.

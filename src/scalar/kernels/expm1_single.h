@@ -3,7 +3,8 @@
 
 namespace qsl_scalar {
 
-// A zero of either sign and every NaN come back as they are, +infinity gives itself and -infinity gives -1.
+// Within 1 ulp. A zero of either sign and every NaN come back as they are, +infinity gives itself and -infinity gives
+// -1.
 float expm1Single(float x);
 
 }  // namespace qsl_scalar

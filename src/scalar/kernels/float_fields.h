@@ -1,4 +1,4 @@
-// What the single-precision kernels share: views of a float's fields, and the NaN that they return by decision.
+// What the single-precision kernels share: views of a float's fields, and the NaN that they return by definition.
 #pragma once
 
 #include <cstdint>

@@ -3,8 +3,8 @@
 
 namespace qsl_scalar {
 
-// sqrt(u^2 + v^2) without overflow or underflow on the way. With an infinity or a NaN the result is |u| + |v|, so an
-// infinity does not outrank a NaN; NaN results are positive. With v zero the result is |u| as it is.
+// sqrt(u^2 + v^2), within 1 ulp, without overflow or underflow on the way. With an infinity or a NaN the result is |u|
+// + |v|, so an infinity does not outrank a NaN; NaN results are positive. With v zero the result is |u| as it is.
 double hypotDouble(double u, double v);
 
 }  // namespace qsl_scalar

@@ -3,18 +3,10 @@
 #include <cmath>
 #include <cstdint>
 
-#include "core/bits.h"
 #include "core/nan_policy.h"
+#include "scalar/kernels/float_fields.h"
 
 namespace qsl_scalar {
-
-namespace {
-
-constexpr std::uint32_t magnitudeMask = 0x7FFFFFFFu;
-constexpr std::uint32_t upperMask = 0xFFFFF000u;  // leaves 12 significant bits
-constexpr std::uint32_t exponentStep = 0x00800000u;
-
-}  // namespace
 
 // Let a >= b be the magnitudes, scaled so that no square overflows or underflows. The large part of the sum under the
 // root is exact, by splitting off 12 bits:
@@ -27,17 +19,14 @@ constexpr std::uint32_t exponentStep = 0x00800000u;
 // there A, T and B are left at their unscaled values: their products vanish and the bracket carries all, which is part
 // of the defined result. From a/b = 2^30 on b no longer reaches the result.
 float hypotSingle(float u, float v) {
-  using zthalf::bitsOf;
-  using zthalf::floatOf;
-  constexpr std::uint32_t patternOfInfinity = 0x7F800000u;
-  constexpr std::uint32_t scalingSteps = 90 * exponentStep;
+  constexpr std::uint32_t scalingSteps = 90 * hiddenBit;
   constexpr std::uint32_t above2To60 = 0x5D800001u;
   constexpr std::uint32_t from2ToMinus60 = 0x21800000u;
   constexpr std::uint32_t beyond2To30 = 0x0F000001u;
 
-  const float p = floatOf(bitsOf(u) & magnitudeMask);
-  const float q = floatOf(bitsOf(v) & magnitudeMask);
-  if (bitsOf(p) >= patternOfInfinity || bitsOf(q) >= patternOfInfinity) return zthalf::settled(p + q, p, q);
+  const float p = magnitudeOf(u);
+  const float q = magnitudeOf(v);
+  if (bitsOf(p) >= exponentBits || bitsOf(q) >= exponentBits) return zthalf::settled(p + q, p, q);
 
   float a = q > p ? q : p;
   float b = q > p ? p : q;
@@ -50,7 +39,7 @@ float hypotSingle(float u, float v) {
     bitsA -= scalingSteps;
     bitsB -= scalingSteps;
     unscale = 0x1p90f;
-  } else if (bitsB < from2ToMinus60 && bitsB >= exponentStep) {
+  } else if (bitsB < from2ToMinus60 && bitsB >= hiddenBit) {
     bitsA += scalingSteps;
     bitsB += scalingSteps;
     unscale = 0x1p-90f;
@@ -58,7 +47,7 @@ float hypotSingle(float u, float v) {
   if (unscale != 1.0f) {
     a = floatOf(bitsA);
     b = floatOf(bitsB);
-  } else if (bitsB < exponentStep) {
+  } else if (bitsB < hiddenBit) {
     if (b == 0.0f) return a;
     a *= 0x1p126f;
     b *= 0x1p126f;
@@ -66,13 +55,13 @@ float hypotSingle(float u, float v) {
   }
 
   const float difference = a - b;
-  const float upperA = floatOf(bitsA & upperMask);
+  const float upperA = upperHalf(floatOf(bitsA));
   float square;
   if (difference > b) {
     square = upperA * upperA - (b * -b - (a - upperA) * (a + upperA));
   } else {
-    const float upperB = floatOf(bitsB & upperMask);
-    const float upperTwiceA = floatOf(bitsOf(upperA) + exponentStep);
+    const float upperB = upperHalf(floatOf(bitsB));
+    const float upperTwiceA = floatOf(bitsOf(upperA) + hiddenBit);
     const float cross = (b - upperB) * upperTwiceA + b * ((a + a) - upperTwiceA);
     square = upperB * upperTwiceA - (difference * -difference - cross);
   }

@@ -28,7 +28,7 @@ bool isWhole(double magnitude) {
   return magnitude >= 0x1p52 || magnitude == static_cast<double>(static_cast<std::int64_t>(magnitude));
 }
 
-// |x| = 1 keeps its magnitude, a smaller one goes to zero and a larger one to infinity, and turned round for y < 0.
+// |x| = 1 keeps its magnitude, a smaller one goes to zero and a larger one to infinity, and the reverse for y < 0.
 double powerToInfinity(double magnitude, double y) {
   if (magnitude == 1.0) return 1.0;
   return (magnitude > 1.0) == (y > 0.0) ? infinity : 0.0;

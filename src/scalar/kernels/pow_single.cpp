@@ -16,7 +16,7 @@ bool isWhole(float power) { return power == std::trunc(power); }
 // From 2^24 on every float is an even integer.
 bool isOdd(float whole) { return whole < 0x1p24f && (static_cast<std::int32_t>(whole) & 1) != 0; }
 
-// |x| = 1 keeps its magnitude, a smaller one goes to zero and a larger one to infinity, and turned round for y < 0.
+// |x| = 1 keeps its magnitude, a smaller one goes to zero and a larger one to infinity, and the reverse for y < 0.
 float powerToInfinity(float magnitude, float y) {
   if (magnitude == 1.0f) return 1.0f;
   return (magnitude > 1.0f) == (y > 0.0f) ? infinity : 0.0f;

@@ -17,8 +17,11 @@ constexpr float resultOverflow = floatOf(0x42B2D4FCu);  // 89.415985: the last o
 // With t = exp|x| - 1:  sinh|x| = (t + t / (t + 1)) / 2, and below 1, where t is close to x and the two terms are about
 // equal, (2 t - t^2 / (t + 1)) / 2. From 22 on the second term is below the last place of the first. Where the
 // exponential overflows and its half does not, it is applied in two halves.
+//
+// An infinity and a NaN come first, since they have no difference of exponentials; then magnitudes whose cube is below
+// the last place of x. Beyond resultOverflow, x * infinity is an infinity with the sign of x.
 float sinhSingle(float x) {
-  constexpr std::uint32_t tiny = 0x31800016u;  // 3.7253e-09
+  constexpr std::uint32_t tiny = 0x31800016u;  // 3.7253e-09, about 2^-28
   if (magnitudeBitsOf(x) >= exponentBits) return x;
   const float magnitude = magnitudeOf(x);
   const float half = hasSign(x) ? -0.5f : 0.5f;

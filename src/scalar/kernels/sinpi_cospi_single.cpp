@@ -75,4 +75,15 @@ float cospiSingle(float x) {
   return isTwelfths(r) ? cosineOfTwelfths(r) : cosQuadrant(angleOf(r));
 }
 
+sineAndCosine<float> sincospiSingle(float x) {
+  const float magnitude = magnitudeOf(x);
+  if (bitsOf(magnitude) >= exponentBits) return {domainNaN, domainNaN};
+  const float turned = halfTurnsWithin1(magnitude);
+  const float r = magnitudeOf(turned);
+  const std::uint32_t sign = (bitsOf(x) ^ bitsOf(turned)) & signBit;
+  if (isTwelfths(r)) return {floatOf(bitsOf(sineOfTwelfths(r)) ^ sign), cosineOfTwelfths(r)};
+  const reducedAngle y = angleOf(r);
+  return {floatOf(bitsOf(sinQuadrant(y)) ^ sign), cosQuadrant(y)};
+}
+
 }  // namespace qsl_scalar

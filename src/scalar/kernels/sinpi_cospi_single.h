@@ -1,6 +1,8 @@
 // sin(pi x) and cos(pi x) in single precision.
 #pragma once
 
+#include "scalar/kernels/sincos_single.h"
+
 namespace qsl_scalar {
 
 // Exact for multiples of 1/2, correctly rounded for those of 1/4, and within 1.5 ulp elsewhere, but that a float next
@@ -9,5 +11,8 @@ namespace qsl_scalar {
 // NaNs of either sign give the negative NaN 0xFFC00000.
 float sinpiSingle(float x);
 float cospiSingle(float x);
+
+// Both from one reduction, with the same bits.
+sineAndCosine<float> sincospiSingle(float x);
 
 }  // namespace qsl_scalar

@@ -18,7 +18,7 @@ constexpr float tangent5 = floatOf(0x3BE8E61Au);  // 0.0071075084
 constexpr float tangent6 = floatOf(0x3BD7F1BAu);  // 0.0065900953
 
 constexpr std::uint32_t tiny = 0x31800016u;     // 3.7253e-09: below it tan a rounds to a
-constexpr std::uint32_t nearEnd = 0x3F2CA579u;  // 0.6743999: above it the series is turned round at pi/4
+constexpr std::uint32_t nearEnd = 0x3F2CA579u;  // 0.6743999: above it the argument is reflected at pi/4
 
 // What a function of the reduced angle is asked for: the tangent, or, an odd multiple of pi/2 having been taken away,
 // minus its reciprocal.

@@ -32,7 +32,7 @@ float tanhOfMagnitude(float a) {
 // With t = exp(-2a) - 1, tanh a = -t / (t + 2) where t is small, and with t = exp(2a) - 1, 1 - 2 / (t + 2) where it is
 // large. From 9.125 on the result rounds to 1.
 //
-// The NaN is the positive one, by decision and unlike that of the other functions here.
+// The NaN is the positive one, by definition and unlike that of the other functions here.
 float tanhSingle(float x) {
   if (x != x) return floatOf(0x7FC00000u);
   const float a = magnitudeOf(x);

@@ -60,12 +60,6 @@ TEST_F(Levels, ShareTheFunctionOfAPassThatGainsNothingFromWidth) {
   EXPECT_EQ(functions.size(), 1u);
 }
 
-TEST_F(Levels, AreDecidedByTheProcessorWhenFirstAsked) {
-  forceLevel(instructionLevel::undecided);
-  EXPECT_EQ(currentLevel(), supportedLevel());
-  EXPECT_NE(levelInUse.load(), instructionLevel::undecided);
-}
-
 TEST_F(Levels, GiveTheSameBitsForEveryUnaryRow) {
   constexpr unsigned long n = 10'007;
   bitSource bits(51);

@@ -23,13 +23,6 @@ static_assert(half_utils::forks(1UL << 63) && half_utils::forks(-1UL));
 
 // The grains are the operations' own; the gate is theirs in common.
 namespace functor = half::scalar::emulated;
-static_assert(functor::uminusFtor::grain == 4096 && functor::realFtor::grain == 4096);
-static_assert(functor::imagFtor::grain == 4096 && functor::conjFtor::grain == 4096);
-static_assert(functor::absFtor::grain == 512 && functor::realToComplexFtor::grain == 512);
-static_assert(functor::epsFtor::grain == 256 && functor::signFtor::grain == 256);
-static_assert(functor::castToFtor<float, fp16binary_t, void>::grain == 128);
-static_assert(functor::castToFtor<bool, fp16binary_t, void>::grain == 128);
-static_assert(functor::castToFtor<fp16binary_t, long long, void>::grain == 128);
 
 // Results that depend on every bit, so that an element mistaken for another one shows.
 template <class Out>

@@ -1,5 +1,6 @@
 // What the arithmetic of every pair of operands gives, case after case: the reference of the tests of complex operators
-// and of the arithmetic families. Written on plain operators of definedNumber, one case a line.
+// and of the arithmetic families. Written on plain operators of definedNumber, one case a line. Rounding to half and
+// widening are the library's, which core/float_conversion tests.
 #pragma once
 
 #include <complex>
@@ -69,6 +70,19 @@ pairOf<Wide> timesReal(pairOf<Wide> z, definedNumber<Wide> x) {
   if (z.im.isZero()) return {z.re * x, Wide(0)};
   if (z.re.isZero()) return {Wide(0), z.im * x};
   return {z.re * x, z.im * x};
+}
+
+// A column's total times the product of a run, with the run's part before the total's in each multiplication.
+inline pairOf<float> totalTimesRun(pairOf<float> total, pairOf<float> run) {
+  const auto [a, b] = total;
+  const auto [c, d] = run;
+  if (b.isZero()) return timesReal(run, a);
+  if (d.isZero()) return a.isZero() ? pairOf<float>{0.0f, c * b} : pairOf<float>{c * a, c * b};
+  const auto minusDB = -(d * b);
+  if (a.isZero() && c.isZero()) return {minusDB, 0.0f};
+  if (a.isZero()) return {minusDB, c * b};
+  if (c.isZero()) return {minusDB, d * a};
+  return {nudged(c * a, -d * b), nudged(d * a, c * b)};
 }
 
 enum class way { nudgedSingle, nudgedDouble, fusedDouble };

@@ -1,6 +1,6 @@
 // The trigonometric kernels as the steps they are defined by, with the tests on patterns written out and every
 // operation rounded on its own: the reference of the kernels' bits. The reduction by the digits of 2/pi is done here in
-// integers.
+// integers; the digits are the library's, which scalar/kernels/rem_pio2_single_accuracy tests by multiple precision.
 #pragma once
 
 #include <array>
