@@ -116,6 +116,19 @@ TEST(MatrixProduct, WithAVectorIsTheStatedSumsAroundEverySeam) {
   });
 }
 
+TEST(MatrixProduct, MakesItsAdditionsInTheStatedOrderOnEveryRoute) {
+  bitSource bits(13);
+  forEachProductRow([&](auto row) {
+    for (const unsigned long k : {3, 7, 8, 9, 12, 16, 17, 24, 40}) {
+      expectOrder(row, 1, k, 70, bits);
+      expectOrder(row, 70, k, 1, bits);
+      expectOrder(row, 5, k, 8, bits);
+      expectOrder(row, 34, k, 19, bits);
+    }
+    expectOrder(row, 70, 261, 3, bits);
+  });
+}
+
 TEST(MatrixProduct, HasANaNsSignFromTheLastLaneThatHasOneOfTheLastStretch) {
   bitSource bits(7);
   using row = productRow<half_t, half_t, half_t>;
