@@ -33,6 +33,7 @@ EXPANDED = {'expand-none-1000x1000': ((1000, 1000), (1000, 1000)),
 REDUCTIONS = {'sum': (np.sum, np.nansum), 'mean': (np.mean, np.nanmean), 'prod': (np.prod, np.nanprod)}
 ACCUMULATORS = {'half': np.float16, 'single': np.float32, 'double': np.float64}
 REDUCTION = re.compile('(sum|mean|prod)(-columns|-rows)?-(half|single|double)(-omitnan)?')
+PRODUCT = re.compile(r'mtimes-half-(\d+)')
 EXTREMUM = re.compile('min(-columns|-rows)?(-index|-omitnan)?')
 
 COMPARED_EXPANDED = {name.partition('-')[2]: shapes for name, shapes in EXPANDED.items()}
@@ -48,6 +49,13 @@ def halves(shape):
 def call_for(row, n):
     """A function that does the row once, or None where NumPy has no such row."""
     types = dict(INTEGERS, **FLOATS)
+    matched = PRODUCT.fullmatch(row)
+    if matched:
+        order = int(matched.group(1))
+        if order > 256:  # minutes
+            return None
+        a, b, target = halves((order, order)), halves((order, order)), np.empty((order, order), np.float16, 'F')
+        return lambda: np.matmul(a, b, out=target)
     left, middle, right = row.partition('-to-')
     if middle and right == 'half' and left in types:
         low = 0 if left.startswith('u') else -2000

@@ -28,6 +28,14 @@ void plus(half_t* a, half_t* b, half_t* c, unsigned long n) {
   mapped<Eigen::half>(c, n) = mapped<Eigen::half>(a, n) + mapped<Eigen::half>(b, n);
 }
 
+using matrix = Eigen::Map<Eigen::Matrix<Eigen::half, Eigen::Dynamic, Eigen::Dynamic>>;
+
+void matrixTimes(half_t* a, half_t* b, half_t* c, unsigned long n) {
+  const auto order = static_cast<Eigen::Index>(n);
+  const auto mappedMatrix = [&](half_t* x) { return matrix(reinterpret_cast<Eigen::half*>(x), order, order); };
+  mappedMatrix(c).noalias() = mappedMatrix(a) * mappedMatrix(b);
+}
+
 }  // namespace
 #endif
 
@@ -43,6 +51,7 @@ ZTHALF_PEER_EXPORT peerPasses ZTHALF_PEER(eigen_)() {
   passes.halfToInt32 = convert<Eigen::half, int>;
   passes.floor = floor;
   passes.plus = plus;
+  passes.matrixTimes = matrixTimes;
 #endif
   return passes;
 }

@@ -29,8 +29,9 @@ struct peerPasses {
   void (*equal)(half_t*, half_t*, bool*, unsigned long);
   void (*less)(half_t*, half_t*, bool*, unsigned long);
   void (*smaller)(half_t*, half_t*, half_t*, unsigned long);
-  void (*smallest)(half_t*, half_t*, unsigned long);            // to one element
-  void (*positionOfSmallest)(half_t*, double*, unsigned long);  // from 1
+  void (*smallest)(half_t*, half_t*, unsigned long);              // to one element
+  void (*positionOfSmallest)(half_t*, double*, unsigned long);    // from 1
+  void (*matrixTimes)(half_t*, half_t*, half_t*, unsigned long);  // square matrices of that order
   void (*shortest)(std::complex<half_t>*, std::complex<half_t>*, unsigned long);
 };
 

@@ -9,6 +9,7 @@
 #include "linalg/result.h"
 #include "linalg/scratch.h"
 #include "linalg/settlement.h"
+#include "linalg/thin_products.h"
 
 namespace zthalf::linalg {
 
@@ -23,6 +24,8 @@ inline unsigned long roundedUp(unsigned long n, unsigned long unit) { return (n 
 
 template <class Base, bool isComplex, bool isOneChain>
 class blockedProduct {
+  static_assert(blockRows <= sweptRows);
+
  public:
   // out is m by n, dense. A product with one chain has a matrix of its own for its outputs, and needs none.
   blockedProduct(operand<Base> const& a, operand<Base> const& b, std::uint16_t* out, unsigned long m, unsigned long k,
@@ -40,6 +43,8 @@ class blockedProduct {
     stage_ = memory_.take<Base>(stageTotal() * parts);
     bTile_ = memory_.take<Base>(bSize() * parts);
     cTile_ = memory_.take<Base>(cSize() * parts);
+    lanes_ = memory_.take<float>(lanesSize());
+    together_ = memory_.take<Base>(togetherSize() * parts);
     specials_.ofRows = memory_.take<std::uint32_t>(wordCount * tileRows());
     specials_.ofColumns = memory_.take<std::uint32_t>(wordCount * tileColumns());
     if constexpr (isOneChain) out_ = memory_.take<std::uint16_t>(m_ * n_);
@@ -63,19 +68,26 @@ class blockedProduct {
   unsigned long tileDepth() const { return std::min(k_, tileSize); }
   unsigned long tileColumns() const { return std::min(n_, tileSize); }
   bool isOnePanel() const { return m_ <= shape_.rows; }
+  bool isLow() const { return m_ < chunkSize; }
 
   // A single panel stays as it was read; behind its last column a vector may reach over the end.
   unsigned long aSize() const {
-    return isOnePanel() ? m_ * tileDepth() + shape_.rows : roundedUp(tileRows(), shape_.rows) * tileDepth();
+    return chunkSize +
+           (isOnePanel() ? m_ * tileDepth() + shape_.rows : roundedUp(tileRows(), shape_.rows) * tileDepth());
   }
-  unsigned long stageTotal() const { return isOnePanel() ? 0 : std::max(stageSize, tileRows()) + shape_.rows; }
-  unsigned long bSize() const { return tileDepth() * tileColumns(); }
+  unsigned long stageTotal() const {
+    return isOnePanel() ? 0 : std::max(stageSize, tileRows()) + shape_.rows + chunkSize;
+  }
+  unsigned long bSize() const { return tileDepth() * tileColumns() + chunkSize; }
   unsigned long cStride() const { return roundedUp(std::min(m_, blockRows), shape_.width); }
   // Behind the last column a chunk may reach over the end.
   unsigned long cSize() const { return cStride() * tileColumns() + chunkSize; }
+  unsigned long togetherSize() const { return isLow() ? m_ * tileColumns() + chunkSize : 0; }
+  unsigned long lanesSize() const { return isThin() && m_ > 1 ? laneCount * sweptRows : 0; }
   std::size_t bytes() const {
     return scratch::bytesFor<Base>(aSize() * parts) + scratch::bytesFor<Base>(stageTotal() * parts) +
            scratch::bytesFor<Base>(bSize() * parts) + scratch::bytesFor<Base>(cSize() * parts) +
+           scratch::bytesFor<Base>(togetherSize() * parts) + scratch::bytesFor<float>(lanesSize()) +
            scratch::bytesFor<std::uint32_t>(wordCount * tileRows()) +
            scratch::bytesFor<std::uint32_t>(wordCount * tileColumns()) +
            (isOneChain ? scratch::bytesFor<std::uint16_t>(m_ * n_) : 0);
@@ -85,14 +97,10 @@ class blockedProduct {
 
   void finishBlock(unsigned long i0, unsigned long rows, unsigned long j0, unsigned long columns) {
     begin(i0, rows, j0, columns);
-    for (unsigned long l0 = 0; l0 < k_; l0 += tileSize) {
-      const unsigned long depth = std::min(tileSize, k_ - l0);
-      b_.read(l0, depth, j0, columns, bTile_, imaginary(bTile_, bSize()));
-      for (unsigned long i = 0; i < rows; i += tileSize) {
-        const unsigned long height = std::min(tileSize, rows - i);
-        readLeft(i0 + i, height, l0, depth);
-        addTile(i, height, columns, depth);
-      }
+    if (isThin()) {
+      addThin(i0, rows, j0, columns);
+    } else {
+      addTiles(i0, rows, j0, columns);
     }
     finish(i0, rows, j0, columns);
   }
@@ -104,6 +112,44 @@ class blockedProduct {
       const auto scale = leveled<chainBeginsPass, std::uint16_t const*, unsigned long, std::uint16_t, float*>::chosen();
       for (unsigned long j = 0; j < columns; ++j) {
         scale(begins_.c + i0 + (j0 + j) * begins_.leading, rows, begins_.beta, cTile_ + j * cStride());
+      }
+    }
+  }
+
+  void addTiles(unsigned long i0, unsigned long rows, unsigned long j0, unsigned long columns) {
+    for (unsigned long l0 = 0; l0 < k_; l0 += tileSize) {
+      const unsigned long depth = std::min(tileSize, k_ - l0);
+      b_.read(l0, depth, j0, columns, bTile_, imaginary(bTile_, bSize()));
+      for (unsigned long i = 0; i < rows; i += tileSize) {
+        const unsigned long height = std::min(tileSize, rows - i);
+        readLeft(i0 + i, height, l0, depth);
+        addTile(i, height, columns, depth);
+      }
+    }
+  }
+
+  // One side a vector, the other one a matrix of halves.
+  bool isThin() const {
+    if constexpr (std::is_same_v<Base, float> && !isComplex && !isOneChain) {
+      return m_ == 1 ? b_.halfAt(0, 0) != nullptr : n_ == 1 && m_ >= chunkSize && a_.halfAt(0, 0) != nullptr;
+    }
+    return false;
+  }
+
+  void addThin(unsigned long i0, unsigned long rows, unsigned long j0, unsigned long columns) {
+    if constexpr (std::is_same_v<Base, float>) {
+      for (unsigned long l0 = 0; l0 < k_; l0 += tileSize) {
+        const unsigned long depth = std::min(tileSize, k_ - l0);
+        if (m_ == 1) {
+          a_.read(0, 1, l0, depth, aTile_, nullptr);
+          std::fill_n(aTile_ + depth, laneCount, 0.0f);
+          const dottedColumns dotted{b_.halfAt(l0, j0), k_, columns, aTile_, depth, cTile_, cStride()};
+          leveled<dotPass, dottedColumns const*>::chosen()(&dotted);
+        } else {
+          b_.read(l0, depth, 0, 1, bTile_, nullptr);
+          const sweptColumns swept{a_.halfAt(i0, l0), m_, rows, bTile_, depth, lanes_, cTile_};
+          leveled<sweepPass, sweptColumns const*>::chosen()(&swept);
+        }
       }
     }
   }
@@ -154,9 +200,24 @@ class blockedProduct {
     }
   }
 
+  // Columns shorter than a chunk are rounded as one.
+  void pushTogether(unsigned long columns) {
+    for (unsigned p = 0; p < parts; ++p) {
+      for (unsigned long j = 0; j < columns; ++j) {
+        std::memcpy(together_ + p * togetherSize() + j * m_, cTile_ + p * cSize() + j * cStride(),
+                    chunkSize * sizeof(Base));
+      }
+      std::fill_n(together_ + p * togetherSize() + columns * m_, chunkSize, Base{0});
+    }
+  }
+
   // Rounds outputs and writes them. True: there are NaNs among them.
   bool store(unsigned long i0, unsigned long rows, unsigned long j0, unsigned long columns, unsigned long i) {
-    const finishedTile<Base> tile{cTile_ + i, cStride(), cSize(), rows, columns, out_ + parts * (i0 + j0 * m_), m_};
+    finishedTile<Base> tile{cTile_ + i, cStride(), cSize(), rows, columns, out_ + parts * (i0 + j0 * m_), m_};
+    if (isLow()) {
+      pushTogether(columns);
+      tile = {together_, 0, togetherSize(), rows * columns, 1, tile.out, 0};
+    }
     bool anyNaN;
     leveled<storePass<Base, isComplex>, finishedTile<Base> const*, bool*>::chosen()(&tile, &anyNaN);
     return anyNaN;
@@ -184,7 +245,8 @@ class blockedProduct {
   unsigned long m_, k_, n_;
   panelShape shape_;
   scratch memory_;
-  Base *aTile_, *stage_, *bTile_, *cTile_;
+  Base *aTile_, *stage_, *bTile_, *cTile_, *together_;
+  float* lanes_;  // of a thin product
   specialIndices specials_;
 };
 

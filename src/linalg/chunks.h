@@ -8,29 +8,32 @@
 
 namespace zthalf::linalg {
 
-inline constexpr unsigned long chunkSize = 16;
+inline constexpr unsigned long chunkSize = 32;
 
-// convert(in, at, count) gets the numbers of chunkSize elements, `parts` of them each, from index `at` on, of which
-// count are there: what follows the last element is zeros.
+// convert(in, at) gets the numbers of chunkSize elements, `parts` of them each, from index `at` on; what follows the
+// last element is zeros.
 template <unsigned parts, class In, class Convert>
 ZTHALF_INLINE void forEachChunk(In const* from, unsigned long n, Convert convert) {
   for (unsigned long at = 0; at < n; at += chunkSize) {
     In const* chunk = from + parts * at;
-    unsigned long count = chunkSize;
     In last[parts * chunkSize];
     if (n - at < chunkSize) {
-      count = n - at;
       std::memset(last, 0, sizeof last);
-      std::memcpy(last, chunk, parts * count * sizeof(In));
+      std::memcpy(last, chunk, parts * (n - at) * sizeof(In));
       chunk = last;
     }
-    convert(chunk, at, count);
+    convert(chunk, at);
   }
+}
+
+template <class Out>
+ZTHALF_INLINE void keepWholeChunk(Out* to, Out const (&chunk)[chunkSize]) {
+  std::memcpy(to, chunk, sizeof chunk);
 }
 
 // The first count elements of a chunk, where they belong.
 template <class Out>
-ZTHALF_INLINE void keepChunk(Out* to, Out const* chunk, unsigned long count, unsigned parts = 1) {
+ZTHALF_INLINE void keepChunk(Out* to, Out const* chunk, unsigned long count, unsigned parts) {
   if (count == chunkSize) {
     std::memcpy(to, chunk, parts * chunkSize * sizeof(Out));
   } else {

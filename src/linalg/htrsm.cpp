@@ -16,6 +16,8 @@ using namespace zthalf::linalg;
 
 fp16binary_t const* halves(unsigned short const* patterns) { return reinterpret_cast<fp16binary_t const*>(patterns); }
 
+static_assert(chunkSize <= stripWidth);  // a strip has room for a whole chunk
+
 // B's vectors in strips: rows where A is on the left, columns where it is on the right. The last strip is filled up
 // with zeros, which no solve turns into anything but zeros or NaNs that nobody looks at.
 class strips {
@@ -114,9 +116,9 @@ void htrsm(char* side, char* uplo, char* transa, char* diag, unsigned long m, un
   }
   const unsigned long order = isLeft ? m : n, across = isLeft ? n : m, count = strips::countFor(across);
   const unsigned long columnSize = std::max(order, stripWidth) + chunkSize, stripsSize = count * order * stripWidth;
-  scratch memory(scratch::bytesFor<float>(order * order) + scratch::bytesFor<float>(stripsSize) +
+  scratch memory(scratch::bytesFor<float>(order * order + chunkSize) + scratch::bytesFor<float>(stripsSize) +
                  scratch::bytesFor<float>(columnSize) + scratch::bytesFor<std::uint32_t>(order * stripWidth));
-  float* const coefficients = memory.take<float>(order * order);
+  float* const coefficients = memory.take<float>(order * order + chunkSize);
   float* const stripMemory = memory.take<float>(stripsSize);
   float* const column = memory.take<float>(columnSize);
   std::uint32_t* const present = memory.take<std::uint32_t>(order * stripWidth);

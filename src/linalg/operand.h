@@ -50,22 +50,22 @@ struct readPass {
   ZTHALF_INLINE static void run(void const* src, unsigned long n, Base* re, Base* im) {
     auto const* from = static_cast<typename storedPart<Element>::type const*>(src);
     if constexpr (isComplexElement<Element>) {
-      forEachChunk<2>(from, n, [=](auto const* parts, unsigned long at, unsigned long count) {
+      forEachChunk<2>(from, n, [=](auto const* parts, unsigned long at) {
         Base real[chunkSize], imaginary[chunkSize];
         for (unsigned long i = 0; i < chunkSize; ++i) {
           real[i] = asNumber<Base>(parts[2 * i]);
           imaginary[i] = asNumber<Base>(parts[2 * i + 1]);
         }
-        keepChunk(re + at, real, count);
-        keepChunk(im + at, imaginary, count);
+        keepWholeChunk(re + at, real);
+        keepWholeChunk(im + at, imaginary);
       });
     } else if constexpr (std::is_same_v<Base, Element>) {
       std::memcpy(re, from, n * sizeof(Base));
     } else {
-      forEachChunk<1>(from, n, [=](auto const* numbers, unsigned long at, unsigned long count) {
+      forEachChunk<1>(from, n, [=](auto const* numbers, unsigned long at) {
         Base real[chunkSize];
         for (unsigned long i = 0; i < chunkSize; ++i) real[i] = asNumber<Base>(numbers[i]);
-        keepChunk(re + at, real, count);
+        keepWholeChunk(re + at, real);
       });
     }
   }
@@ -76,10 +76,10 @@ template <class Base>
 struct scaledReadPass {
   static constexpr bool isWide = true;
   ZTHALF_INLINE static void run(std::uint16_t const* x, unsigned long n, std::uint16_t factor, Base* to) {
-    forEachChunk<1>(x, n, [=](std::uint16_t const* halves, unsigned long at, unsigned long count) {
+    forEachChunk<1>(x, n, [=](std::uint16_t const* halves, unsigned long at) {
       Base scaled[chunkSize];
       for (unsigned long i = 0; i < chunkSize; ++i) scaled[i] = widen<Base>(scaledHalf(factor, halves[i]));
-      keepChunk(to + at, scaled, count);
+      keepWholeChunk(to + at, scaled);
     });
   }
 };
@@ -94,6 +94,7 @@ class operand {
         elementSize_(sizeof(Element)),
         leading_(leading),
         isReal_(!isComplexElement<Element>),
+        isHalves_(std::is_same_v<Element, fp16binary_t>),
         read_(leveled<readPass<Base, Element>, void const*, unsigned long, Base*, Base*>::chosen()) {}
 
   // Halves times the half `factor`, each product rounded to half.
@@ -105,7 +106,13 @@ class operand {
 
   // Rows i to i + rows - 1 of columns l to l + columns - 1, one column after the other without a gap. im is null in a
   // real product; in a complex one a real operand has imaginary parts of +0.
+  // Behind the last column re and im have room up to the next whole chunk of a column.
   void read(unsigned long i, unsigned long rows, unsigned long l, unsigned long columns, Base* re, Base* im) const;
+
+  // Element (i, l) in memory, where the elements are halves as they are; otherwise null.
+  std::uint16_t const* halfAt(unsigned long i, unsigned long l) const {
+    return isHalves_ && scaled_ == nullptr ? static_cast<std::uint16_t const*>(at(i, l)) : nullptr;
+  }
 
  private:
   void readRun(void const* src, unsigned long n, Base* re, Base* im) const {
@@ -118,6 +125,7 @@ class operand {
   unsigned long elementSize_;
   unsigned long leading_;
   bool isReal_;
+  bool isHalves_;
   void (*read_)(void const*, unsigned long, Base*, Base*);
   std::uint16_t factor_ = 0;
   void (*scaled_)(std::uint16_t const*, unsigned long, std::uint16_t, Base*) = nullptr;  // null: as they are

@@ -17,13 +17,15 @@ using working = std::conditional_t<isComplex, std::complex<Base>, Base>;
 
 template <class Base>
 void fill(Base* to, operand<Base> const& from, unsigned long i, unsigned long l) {
-  from.read(i, 1, l, 1, to, nullptr);
+  Base re[chunkSize];
+  from.read(i, 1, l, 1, re, nullptr);
+  *to = re[0];
 }
 template <class Base>
 void fill(std::complex<Base>* to, operand<Base> const& from, unsigned long i, unsigned long l) {
-  Base re, im;
-  from.read(i, 1, l, 1, &re, &im);
-  *to = {re, im};
+  Base re[chunkSize], im[chunkSize];
+  from.read(i, 1, l, 1, re, im);
+  *to = {re[0], im[0]};
 }
 
 // One output by its definition. Not merged into its caller, so that only who needs it has its tiles on the stack.

@@ -39,6 +39,15 @@ TEST(SmallPrograms, PlusTwoArraysMakesAMatrix) {
             "  0.703125        299\n");
 }
 
+TEST(SmallPrograms, SolveFindsTheSolutionAndAZeroPivot) {
+  const auto result = run("solve");
+  EXPECT_EQ(result.status, 0);
+  EXPECT_EQ(result.out,
+            "info 0, solution 1 -2 2.99805 0.500488\n"
+            "largest residual 0.0122\n"
+            "with a column of zeros: info 3\n");
+}
+
 TEST(SmallPrograms, HostArraysDoesWhatAHostDoes) {
   if (!EXAMPLES_HOST) GTEST_SKIP() << "the program is for the embedded host, and another one is linked";
   const auto result = run("host_arrays");

@@ -101,6 +101,34 @@ TEST(MatrixProduct, OfHalvesIsTheStatedSumsWhereEveryDimensionHasASeam) {
   }
 }
 
+TEST(MatrixProduct, WithAVectorIsTheStatedSumsAroundEverySeam) {
+  bitSource bits(12);
+  forEachProductRow([&](auto row) {
+    for (const unsigned long k : {2, 7, 9, 64, 255, 257, 300}) {
+      for (const unsigned long size : {1, 3, 4, 5, 31, 32, 40, 257}) {
+        expectProduct(row, 1, k, size, values::spoilt, bits);
+        expectProduct(row, size, k, 1, values::spoilt, bits);
+        expectProduct(row, 2, k, size, values::moderate, bits);
+      }
+    }
+    expectProduct(row, 1030, 9, 1, values::spoilt, bits);
+    expectProduct(row, 1, 9, 1030, values::spoilt, bits);
+  });
+}
+
+TEST(MatrixProduct, MakesItsAdditionsInTheStatedOrderOnEveryRoute) {
+  bitSource bits(13);
+  forEachProductRow([&](auto row) {
+    for (const unsigned long k : {3, 7, 8, 9, 12, 16, 17, 24, 40}) {
+      expectOrder(row, 1, k, 70, bits);
+      expectOrder(row, 70, k, 1, bits);
+      expectOrder(row, 5, k, 8, bits);
+      expectOrder(row, 34, k, 19, bits);
+    }
+    expectOrder(row, 70, 261, 3, bits);
+  });
+}
+
 TEST(MatrixProduct, HasANaNsSignFromTheLastLaneThatHasOneOfTheLastStretch) {
   bitSource bits(7);
   using row = productRow<half_t, half_t, half_t>;

@@ -102,12 +102,12 @@ std::vector<typename Row::output> referenceProduct(std::vector<typename Row::lef
   return c;
 }
 
-// One product of drawn matrices, each output compared by its bits; what lies behind the output stays as it is.
+// One product, each output compared by its bits; what lies behind the output stays as it is.
 template <class Row>
-void expectProduct(Row row, unsigned long m, unsigned long k, unsigned long n, values kind, bitSource& bits) {
-  auto a = drawnMatrix<typename Row::left>(m * k, kind, bits);
-  auto b = drawnMatrix<typename Row::right>(k * n, kind, bits);
+void expectProductOf(Row row, std::vector<typename Row::left> a, std::vector<typename Row::right> b, unsigned long m,
+                     unsigned long k, unsigned long n) {
   constexpr unsigned long behind = 3;
+  bitSource bits(m + k + n);
   const auto mark = moderateNumber<typename Row::output>::draw(bits);
   std::vector<typename Row::output> c(m * n + behind, mark);
   row.facade(a.data(), b.data(), c.data(), m, k, n);
@@ -116,6 +116,45 @@ void expectProduct(Row row, unsigned long m, unsigned long k, unsigned long n, v
                         std::to_string(n));
   for (unsigned long i = 0; i < m * n; ++i) compare.check(c[i], expected[i], half_t{static_cast<std::uint16_t>(i)});
   for (unsigned long i = m * n; i < c.size(); ++i) compare.check(c[i], mark);
+}
+
+template <class Row>
+void expectProduct(Row row, unsigned long m, unsigned long k, unsigned long n, values kind, bitSource& bits) {
+  auto a = drawnMatrix<typename Row::left>(m * k, kind, bits);
+  expectProductOf(row, a, drawnMatrix<typename Row::right>(k * n, kind, bits), m, k, n);
+}
+
+template <class T>
+void setNumber(T& x, double value, double) {
+  x = static_cast<T>(value);
+}
+inline void setNumber(half_t& x, double value, double) { x = {reference::narrowed(value)}; }
+template <class T>
+void setNumber(std::complex<T>& z, double re, double im) {
+  T parts[2];
+  setNumber(parts[0], re, 0);
+  setNumber(parts[1], im, 0);
+  z = {parts[0], parts[1]};
+}
+
+// A product in which the order of additions shows: at every third index the factors are so large that beside their
+// product, of either sign, the others round away; as often as not the large ones cancel.
+template <class Row>
+void expectOrder(Row row, unsigned long m, unsigned long k, unsigned long n, bitSource& bits) {
+  constexpr bool inDouble = isDouble<typename Row::left> || isDouble<typename Row::right>;
+  constexpr double largeHalf = inDouble ? 0x1p15 : 0x1p12, largeOther = inDouble ? 0x1p38 : 0x1p12;
+  constexpr double largeLeft = isDouble<typename Row::left> ? largeOther : largeHalf;
+  constexpr double largeRight = isDouble<typename Row::right> ? largeOther : largeHalf;
+  std::vector<typename Row::left> a(m * k);
+  std::vector<typename Row::right> b(k * n);
+  const auto sign = [&] { return bits() % 2 != 0 ? -1.0 : 1.0; };
+  const auto small = [&] { return sign() * static_cast<double>(bits() % 8) / 4; };
+  for (unsigned long l = 0; l < k; ++l) {
+    const bool isLarge = bits() % 3 == 0;
+    for (unsigned long i = 0; i < m; ++i) setNumber(a[i + l * m], isLarge ? sign() * largeLeft : small(), small());
+    for (unsigned long j = 0; j < n; ++j) setNumber(b[l + j * k], isLarge ? sign() * largeRight : small(), small());
+  }
+  expectProductOf(row, a, b, m, k, n);
 }
 
 }  // namespace zthalf::testing

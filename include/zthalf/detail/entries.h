@@ -356,15 +356,15 @@
 // Matrix products: as binary rows, without shapes.
 #define ZTHALF_PRODUCT_ENTRIES(X) ZTHALF_TWENTY_PAIRS(X, mtimes)
 
-// Routines after BLAS and LAPACK: X(entry, shape, template in namespace half::blas). The shape is an
-// alias of entry_shapes.h without its ending; each has a facade function of its own.
-#define ZTHALF_BLAS_ENTRIES(X)                                                                  \
+// Routines after BLAS and LAPACK: X(entry, shape, template in namespace half::blas). The shape is an alias of
+// entry_shapes.h without its ending; each has a facade function of its own.
+#define ZTHALF_BLAS_ENTRIES(X)                                                                   \
   X(hgemmHalfHalf, hgemm, hgemm<half::storage::Half, half::storage::Half, half::storage::Half>) \
   X(hscalHalfHalf, hscal, hscal<half::storage::Half, half::storage::Half>)                      \
-  X(ihamax, ihamax, ihamax<half::storage::Half>)                                                \
-  X(laswpHalf, hlaswp, hlaswp<half::storage::Half>)                                             \
+  X(ihamax, ihamax, ihamax<half::storage::Half>)                                                 \
+  X(laswpHalf, hlaswp, hlaswp<half::storage::Half>)                                              \
   X(htrsmHalfHalf, htrsm, htrsm<half::storage::Half, half::storage::Half>)                      \
-  X(hgetrf2Half, hgetrf, hgetrf2<half::storage::Half>)                                          \
+  X(hgetrf2Half, hgetrf, hgetrf2<half::storage::Half>)                                           \
   X(hgetrfHalf, hgetrf, hgetrf<half::storage::Half>)
 
 // Binary rows that the table has and the facade has no function for: half_vector::minBinOp and maxBinOp choose among

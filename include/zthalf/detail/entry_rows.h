@@ -46,7 +46,8 @@
 #define ZTHALF_PRODUCT_ROW(op, Left, Right, Out)                                                                      \
   ZTHALF_ROW(op##Left##Right, ZTHALF_SIGNATURE(product, half::element::Left, half::element::Right, half::element::Out), \
              op<half::element::Left, half::element::Right, half::element::Out>)
-#define ZTHALF_BLAS_ROW(entry, shape, ...) ZTHALF_ROW(entry, ZTHALF_SIGNATURE(shape, half::storage::Half), blas::__VA_ARGS__)
+#define ZTHALF_BLAS_ROW(entry, shape, ...) \
+  ZTHALF_ROW(entry, ZTHALF_SIGNATURE(shape, half::storage::Half), blas::__VA_ARGS__)
 #define ZTHALF_SIMPLE_REDUCTION_ROW(entry, facade, function, In, Out, Accumulator) \
   ZTHALF_ROW(entry, ZTHALF_SIGNATURE(unary, half::element::In, half::element::Out),  \
              function<half::element::In, half::element::Out, half::element::Accumulator>)
