@@ -71,13 +71,4 @@ TEST(SmallPrograms, HostArraysDoesWhatAHostDoes) {
             "{ 13653U } /* 0.333251953125 */ \n");
 }
 
-TEST(SmallPrograms, SolveFindsTheSolutionAndAZeroPivot) {
-  const auto result = run("solve");
-  EXPECT_EQ(result.status, 0);
-  EXPECT_EQ(result.out,
-            "info 0, solution 1 -2 2.99805 0.500488\n"
-            "largest residual 0.0122\n"
-            "with a column of zeros: info 3\n");
-}
-
 }  // namespace
