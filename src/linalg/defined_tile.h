@@ -33,7 +33,7 @@ inline std::complex<Base> sum(std::complex<Base> first, std::complex<Base> secon
 // Adds the product of two tiles to a third. Row i of aTile, column j of bTile and column j of cTile begin tileSize
 // elements apart; behind their kTile elements rows and columns are zero up to a whole number of lanes.
 //
-// The three loops are one task whatever the sizes: a tile is no larger than the grain at which it would be divided.
+// The three loops run in one piece whatever the sizes: a tile is no larger than the grain at which it would be divided.
 template <class W>
 void mtimesBlockParallel(W* aTile, W* bTile, W* cTile, unsigned long mTile, unsigned long kTile, unsigned long nTile) {
   using namespace zthalf::linalg;

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <cstring>
 
 #include "core/float_conversion.h"
 #include "core/instruction_level.h"
@@ -30,15 +31,12 @@ struct sweepPass {
   ZTHALF_INLINE static void run(sweptColumns const* swept) {
     sweptColumns const s = *swept;
     const unsigned long lanes = std::min(laneCount, s.depth);
+    std::memset(s.lanes, 0, lanes * sweptRows * sizeof(float));
     for (unsigned long l = 0; l < s.depth; ++l) {
       std::uint16_t const* const column = s.matrix + l * s.leading;
       float* const lane = s.lanes + l % laneCount * sweptRows;
       const float factor = s.vector[l];
-      if (l < laneCount) {
-        for (unsigned long i = 0; i < s.rows; ++i) lane[i] = 0.0f + widen<float>(column[i]) * factor;
-      } else {
-        for (unsigned long i = 0; i < s.rows; ++i) lane[i] += widen<float>(column[i]) * factor;
-      }
+      for (unsigned long i = 0; i < s.rows; ++i) lane[i] += widen<float>(column[i]) * factor;
     }
     for (unsigned long t = 0; t < lanes; ++t) {
       for (unsigned long i = 0; i < s.rows; ++i) s.c[i] = s.lanes[t * sweptRows + i] + s.c[i];
