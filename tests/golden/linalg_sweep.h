@@ -161,7 +161,7 @@ inline void sweep(std::string_view name, half_ptr::hgetrf_entry<pattern16>* entr
       patternArray a = patternsOf(m * n, every);
       std::vector<unsigned long> ipiv(std::min(m, n));
       int info = 0;
-      const auto factorise = [&] { entry(m, n, a.data(), m, ipiv.data(), info); };
+      const auto factorise = [&, m = m, n = n] { entry(m, n, a.data(), m, ipiv.data(), info); };
       called(factorise);
       hash.add(a.data(), a.size());
       hash.add(ipiv.data(), ipiv.size());

@@ -107,7 +107,7 @@ TEST(CancelledCallers, GetEveryElementOfLoopsOverTwoOperands) {
                                         {countOf(right), right.size(), right.data()},
                                         {countOf(out), out.size(), out.data()}};
     const half_utils::expansionPlan plan(shapes[0], shapes[1], shapes[2]);
-    expectUndisturbed("expansion", [&] {
+    expectUndisturbed("expansion", [&, out = out] {
       results c(countOf(out));
       half_utils::expandOp<pairFtor>(a.data(), b.data(), c.data(), plan, true);
       return c;

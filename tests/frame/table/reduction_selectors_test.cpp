@@ -45,7 +45,7 @@ TEST(ReductionSelectors, ReachTheEntryOfTheirFlagsAndTypes) {
                 const auto expected = ndims == 1 && firstReduced
                                           ? only(name + ("SimpleReduce" + ending), src, dst, dims[0])
                                           : only(name + ("Reduce" + ending), src, dst, ndims, dims, firstReduced);
-                EXPECT_EQ(entriesReachedBy([&] {
+                EXPECT_EQ(entriesReachedBy([&, select = select] {
                             select(src, dst, ndims, dims, firstReduced, isComplex, omitNaN,
                                    static_cast<FloatTypeEnum>(accumulator), static_cast<FloatTypeEnum>(output));
                           }),
